@@ -1,0 +1,14 @@
+#include "platform/clock.h"
+
+namespace platform {
+
+int DayOfWeek(const DateTime& date) {
+  // Sakamoto's rule for the Gregorian calendar.
+  static constexpr int kMonthShift[] = {0, 3, 2, 5, 0, 3, 5, 1, 4, 6, 2, 4};
+  const int year = date.month < 3 ? date.year - 1 : date.year;
+  const int sundayBased =
+      (year + year / 4 - year / 100 + year / 400 + kMonthShift[date.month - 1] + date.day) % 7;
+  return sundayBased == 0 ? 7 : sundayBased;
+}
+
+}  // namespace platform
