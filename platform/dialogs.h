@@ -1,0 +1,41 @@
+// The system's own dialogs. They run a nested message loop until the user has answered.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "platform/font.h"
+
+namespace platform {
+
+class TopWindow;
+
+enum class MessageButtons { Ok = 0, OkCancel = 1, YesNoCancel = 3, YesNo = 4 };
+enum class MessageIcon { None = 0, Stop = 16, Question = 32, Exclamation = 48, Information = 64 };
+enum class Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
+
+struct Message {
+  std::u16string text;
+  std::u16string title;
+  MessageButtons buttons = MessageButtons::Ok;
+  MessageIcon icon = MessageIcon::None;
+  TopWindow* owner = nullptr;  ///< disabled while the box stands; may be none
+};
+
+struct FontChoice {
+  Font font;
+  std::uint32_t colour = 0;  ///< 0x00BBGGRR
+};
+
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+  /// A box that cannot be shown answers Cancel, or No where there is no Cancel, or Ok.
+  virtual Answer ShowMessage(const Message& message) = 0;
+  /// None when the user cancelled.
+  [[nodiscard]] virtual std::optional<FontChoice> ChooseFont(const FontChoice& start,
+                                                             TopWindow* owner) = 0;
+};
+
+}  // namespace platform
