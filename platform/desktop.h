@@ -6,6 +6,7 @@ namespace platform {
 
 class Clipboard;
 class Clock;
+class Controls;
 class Dialogs;
 class Files;
 class Input;
@@ -24,6 +25,7 @@ class Desktop {
   virtual ~Desktop() = default;
   virtual Clipboard& clipboard() = 0;
   virtual Clock& clock() = 0;
+  virtual Controls& controls() = 0;
   virtual Dialogs& dialogs() = 0;
   virtual Files& files() = 0;
   virtual Input& input() = 0;
