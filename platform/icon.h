@@ -1,4 +1,5 @@
-// An icon as a value: straight (not premultiplied) 32-bit pixels 0xAARRGGBB, row by row from the top.
+// An icon as a value: straight (not premultiplied) 32-bit pixels 0xAARRGGBB, row by row from the
+// top.
 #pragma once
 
 #include <cstdint>

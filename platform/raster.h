@@ -1,5 +1,5 @@
-// Copies between surfaces. Every routine clips on both sides; source and destination may be the same
-// surface and may overlap. The pixels are the same as the system's own blits give.
+// Copies between surfaces. Every routine clips on both sides; source and destination may be the
+// same surface and may overlap. The pixels are the same as the system's own blits give.
 #pragma once
 
 #include <cstdint>
@@ -24,8 +24,9 @@ enum class RasterOp : std::uint32_t {
 /// A size at or below 0 copies nothing.
 void BitBlt(Surface& destination, const Rect& area, const Surface& source, Point from, RasterOp op);
 
-/// Stretches `from` of the source over `area`; nearest pixel (the system's colour-on-colour mode). A
-/// negative width or height (right below left, bottom below top) mirrors; a size of 0 draws nothing.
+/// Stretches `from` of the source over `area`; nearest pixel (the system's colour-on-colour mode).
+/// A negative width or height (right below left, bottom below top) mirrors; a size of 0 draws
+/// nothing.
 void StretchBlt(Surface& destination, const Rect& area, const Surface& source, const Rect& from,
                 RasterOp op);
 

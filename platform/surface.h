@@ -37,10 +37,12 @@ class Surface {
   Surface() = default;
   /// Filled with zero (black). A size at or below 0, or one there is no memory for, gives an empty
   /// surface of size 0 x 0.
-  explicit Surface(Size size);
-  Surface(Surface&&) noexcept = default;
-  Surface& operator=(Surface&&) noexcept = default;
+  explicit Surface(platform::Size size);
+  /// The surface that was moved from is empty.
+  Surface(Surface&& other) noexcept;
+  Surface& operator=(Surface&& other) noexcept;
 
+  /// Empty when there is no memory for it.
   [[nodiscard]] Surface Clone() const;
 
   platform::Size Size() const { return size_; }
