@@ -1,0 +1,55 @@
+#include "platform/text.h"
+
+#include <algorithm>
+
+#include "platform/letters.h"
+
+namespace platform {
+namespace {
+
+constexpr LetterTable kToLower = MakeLetterTable(true);
+constexpr LetterTable kToUpper = MakeLetterTable(false);
+
+bool EqualIgnoringCase(char16_t a, char16_t b) { return LowerUnit(a) == LowerUnit(b); }
+
+}  // namespace
+
+char16_t LowerUnit(char16_t unit) { return unit < kLettersEnd ? kToLower[unit] : unit; }
+char16_t UpperUnit(char16_t unit) { return unit < kLettersEnd ? kToUpper[unit] : unit; }
+
+std::u16string Lower(std::u16string_view text) {
+  std::u16string result(text);
+  std::ranges::transform(result, result.begin(), LowerUnit);
+  return result;
+}
+
+std::u16string_view Trim(std::u16string_view text) {
+  const auto first = text.find_first_not_of(u' ');
+  if (first == text.npos) return {};
+  return text.substr(first, text.find_last_not_of(u' ') - first + 1);
+}
+
+std::size_t Find(std::u16string_view text, std::u16string_view what, Case compare,
+                 std::size_t from) {
+  if (compare == Case::Exact) return text.find(what, from);
+  if (from > text.size()) return text.npos;
+  const auto hit = std::search(text.begin() + static_cast<std::ptrdiff_t>(from), text.end(),
+                               what.begin(), what.end(), EqualIgnoringCase);
+  if (hit == text.end() && !what.empty()) return text.npos;
+  return static_cast<std::size_t>(hit - text.begin());
+}
+
+std::u16string ReplaceAll(std::u16string_view text, std::u16string_view what,
+                          std::u16string_view by, Case compare) {
+  if (what.empty()) return std::u16string(text);
+  std::u16string result;
+  std::size_t done = 0;
+  for (auto hit = Find(text, what, compare); hit != text.npos;
+       hit = Find(text, what, compare, done)) {
+    result.append(text, done, hit - done).append(by);
+    done = hit + what.size();
+  }
+  return result.append(text, done);
+}
+
+}  // namespace platform
