@@ -2,17 +2,36 @@
 
 #include <cassert>
 
+#include "platform/Form.h"
+
 namespace platform {
 namespace {
-Desktop* current = nullptr;
-}
+Desktop* currentDesktop = nullptr;
+Forms* currentForms = nullptr;
+}  // namespace
 
 Desktop& TheDesktop() {
-  assert(current != nullptr);
-  return *current;
+  assert(currentDesktop != nullptr);
+  return *currentDesktop;
 }
 
-DesktopScope::DesktopScope(Desktop& desktop) : former_(current) { current = &desktop; }
-DesktopScope::~DesktopScope() { current = former_; }
+Forms& TheForms() {
+  assert(currentForms != nullptr);
+  return *currentForms;
+}
+
+DesktopScope::DesktopScope(Desktop& desktop)
+    : formerDesktop_(currentDesktop),
+      formerForms_(currentForms),
+      forms_(std::make_unique<Forms>()) {
+  currentDesktop = &desktop;
+  currentForms = forms_.get();
+}
+
+DesktopScope::~DesktopScope() {
+  forms_.reset();
+  currentDesktop = formerDesktop_;
+  currentForms = formerForms_;
+}
 
 }  // namespace platform

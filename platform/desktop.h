@@ -2,6 +2,8 @@
 // test makes an in-process one; there is one current desktop at a time.
 #pragma once
 
+#include <memory>
+
 namespace platform {
 
 class Clipboard;
@@ -43,7 +45,10 @@ class Desktop {
 /// The desktop in use. Calling it before one was set is a programming error.
 Desktop& TheDesktop();
 
-/// Makes a desktop the current one for the scope's life; scopes nest.
+class Forms;
+
+/// Makes a desktop the current one, with an empty collection of forms, for the scope's life; scopes
+/// nest. Forms that are still loaded at its end are freed without being asked.
 class DesktopScope {
  public:
   explicit DesktopScope(Desktop& desktop);
@@ -52,7 +57,9 @@ class DesktopScope {
   DesktopScope& operator=(const DesktopScope&) = delete;
 
  private:
-  Desktop* former_;
+  Desktop* formerDesktop_;
+  Forms* formerForms_;
+  std::unique_ptr<Forms> forms_;
 };
 
 }  // namespace platform
