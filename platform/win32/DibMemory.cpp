@@ -1,0 +1,42 @@
+#include "platform/win32/DibMemory.h"
+
+namespace platform {
+namespace {
+
+BITMAPINFO TopDownInfo(Size size) {
+  BITMAPINFO info{};
+  info.bmiHeader.biSize = sizeof(info.bmiHeader);
+  info.bmiHeader.biWidth = size.width;
+  info.bmiHeader.biHeight = -size.height;
+  info.bmiHeader.biPlanes = 1;
+  info.bmiHeader.biBitCount = 32;
+  info.bmiHeader.biCompression = BI_RGB;
+  return info;
+}
+
+}  // namespace
+
+DibMemory::DibMemory(Size size) : dc_(::CreateCompatibleDC(nullptr)) {
+  const BITMAPINFO info = TopDownInfo(size);
+  void* bits = nullptr;
+  bitmap_.reset(::CreateDIBSection(dc_.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+  if (!dc_ || !bitmap_) return;
+  former_ = ::SelectObject(dc_.get(), bitmap_.get());
+  pixels = static_cast<Pixel*>(bits);
+}
+
+DibMemory::~DibMemory() {
+  // A bitmap that is still selected would not be freed.
+  if (former_) ::SelectObject(dc_.get(), former_);
+}
+
+HDC DcOf(const Surface& surface) {
+  return surface.Empty() ? nullptr : static_cast<DibMemory*>(surface.Memory())->Dc();
+}
+
+std::unique_ptr<PixelMemory> NewPixelMemory(Size size) {
+  auto memory = std::make_unique<DibMemory>(size);
+  return memory->pixels ? std::move(memory) : nullptr;
+}
+
+}  // namespace platform

@@ -1,0 +1,29 @@
+// A surface's pixels as a device-independent bitmap, selected in a device context of its own: what
+// the system draws there (text) and what the program writes are the same memory.
+#pragma once
+
+#include "platform/surface.h"
+#include "platform/win32/handles.h"
+
+namespace platform {
+
+class DibMemory final : public PixelMemory {
+ public:
+  /// `pixels` stays null when there is no memory for it.
+  explicit DibMemory(Size size);
+  ~DibMemory() override;
+
+  HDC Dc() const { return dc_.get(); }
+  HBITMAP Bitmap() const { return bitmap_.get(); }
+
+ private:
+  OwnedDc dc_;
+  OwnedBitmap bitmap_;
+  HGDIOBJ former_ = nullptr;
+};
+
+/// The device context of a surface; null of an empty one. What was drawn through it can be read
+/// from the pixels after GdiFlush.
+HDC DcOf(const Surface& surface);
+
+}  // namespace platform
