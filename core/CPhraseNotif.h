@@ -1,5 +1,5 @@
-// A notice between all open views of the same data: whoever changes the data raises it, everyone who
-// shows the data listens. Two hosts on the screen stay in step in this way.
+// A notice between all open views of the same data: whoever changes the data raises it, everyone
+// who shows the data listens. Two hosts on the screen stay in step in this way.
 #pragma once
 
 #include <functional>
@@ -18,7 +18,8 @@ class CPhraseNotif {
   /// Listens for as long as the result lives.
   [[nodiscard]] std::shared_ptr<void> Listen(Listener listener);
 
-  /// Both call every listener at once, on this thread. A listener may end itself or others meanwhile.
+  /// Both call every listener at once, on this thread. A listener may end itself or others
+  /// meanwhile.
   void RaiseChange() const { Raise(&Listener::Change); }
   void RaiseGroupsChange() const { Raise(&Listener::GroupsChange); }
 
