@@ -21,12 +21,14 @@ enum class RasterOp : std::uint32_t {
   Whiteness = 0x00FF0062,
 };
 
-/// A size at or below 0 copies nothing.
+/// Copies a part of the same size. A negative width or height extends to the left or upwards from
+/// the area's corner, which then is the right or lower one and still belongs to it, and from the
+/// source's corner alike; nothing is mirrored. A size of 0 copies nothing.
 void BitBlt(Surface& destination, const Rect& area, const Surface& source, Point from, RasterOp op);
 
-/// Stretches `from` of the source over `area`; nearest pixel (the system's colour-on-colour mode).
-/// A negative width or height (right below left, bottom below top) mirrors; a size of 0 draws
-/// nothing.
+/// Stretches `from` of the source over `area` by whole pixels (the system's colour-on-colour mode):
+/// of pixels that merge, the last column and the first row stay. Negative sizes extend as above;
+/// one of the two negative mirrors. A size of 0 draws nothing.
 void StretchBlt(Surface& destination, const Rect& area, const Surface& source, const Rect& from,
                 RasterOp op);
 
