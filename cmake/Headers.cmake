@@ -8,7 +8,7 @@ list(FILTER all_headers EXCLUDE REGEX "^(build|dist|out)/")
 if(WIN32)
   list(FILTER all_headers INCLUDE REGEX "(^|/)win32/")
 else()
-  list(FILTER all_headers EXCLUDE REGEX "(^|/)win32/|^e2e/probe/")
+  list(FILTER all_headers EXCLUDE REGEX "(^|/)win32/|^e2e/")
 endif()
 
 set(header_sources)
