@@ -1,23 +1,10 @@
 #include "platform/win32/DibMemory.h"
 
+#include "platform/win32/bitmaps.h"
+
 namespace platform {
-namespace {
-
-BITMAPINFO TopDownInfo(Size size) {
-  BITMAPINFO info{};
-  info.bmiHeader.biSize = sizeof(info.bmiHeader);
-  info.bmiHeader.biWidth = size.width;
-  info.bmiHeader.biHeight = -size.height;
-  info.bmiHeader.biPlanes = 1;
-  info.bmiHeader.biBitCount = 32;
-  info.bmiHeader.biCompression = BI_RGB;
-  return info;
-}
-
-}  // namespace
-
 DibMemory::DibMemory(Size size) : dc_(::CreateCompatibleDC(nullptr)) {
-  const BITMAPINFO info = TopDownInfo(size);
+  const BITMAPINFO info = TopDownBitmap(size);
   void* bits = nullptr;
   bitmap_.reset(::CreateDIBSection(dc_.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
   if (!dc_ || !bitmap_) return;

@@ -1,0 +1,265 @@
+#include "platform/win32/PaneWindow.h"
+
+#include "platform/raster.h"
+#include "platform/win32/DibMemory.h"
+#include "platform/win32/DragSource.h"
+#include "platform/win32/Pointers.h"
+#include "platform/win32/wide.h"
+
+namespace platform {
+namespace {
+
+MouseEvent MouseEventOf(const WindowMessage& m) {
+  MouseEvent event;
+  event.at = {GET_X_LPARAM(m.lParam), GET_Y_LPARAM(m.lParam)};
+  event.modifiers = {.shift = (m.wParam & MK_SHIFT) != 0,
+                     .control = (m.wParam & MK_CONTROL) != 0,
+                     .alt = ::GetKeyState(VK_MENU) < 0};
+  event.left = (m.wParam & MK_LBUTTON) != 0;
+  event.right = (m.wParam & MK_RBUTTON) != 0;
+  event.middle = (m.wParam & MK_MBUTTON) != 0;
+  return event;
+}
+
+constexpr unsigned BitOf(Button button) { return 1U << static_cast<unsigned>(button); }
+
+// The window that a notification is about, where a parent is told of it.
+HWND ChildOf(const WindowMessage& m) {
+  switch (m.id) {
+    case WM_NOTIFY:
+      return reinterpret_cast<const NMHDR*>(m.lParam)->hwndFrom;
+    case WM_COMMAND:
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+    case WM_CTLCOLORBTN:
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORLISTBOX:
+    case WM_CTLCOLORSTATIC:
+      return reinterpret_cast<HWND>(m.lParam);
+    default:
+      return nullptr;
+  }
+}
+
+void CopyCanvas(HDC to, const Surface& canvas, Point from) {
+  if (canvas.Empty()) return;
+  ::BitBlt(to, 0, 0, canvas.Width(), canvas.Height(), DcOf(canvas), from.x, from.y, SRCCOPY);
+}
+
+}  // namespace
+
+void PaneWindow::Refresh() {
+  if (!Handle() || canvas_.Empty()) return;
+  {
+    const BorrowedDc dc(Handle());
+    CopyCanvas(dc.get(), canvas_, {0, 0});
+  }
+  ::ValidateRect(Handle(), nullptr);
+  for (HWND child = ::GetWindow(Handle(), GW_CHILD); child;
+       child = ::GetWindow(child, GW_HWNDNEXT)) {
+    if (NativeWindow* object = Of(child)) object->ParentRefreshed();
+  }
+  ::GdiFlush();
+}
+
+void PaneWindow::SetPointer(const Pointer& pointer) {
+  pointer_ = pointer;
+  POINT at;
+  // A pointer that rests over the window sends no message by which it would change.
+  if (Handle() && ::GetCursorPos(&at) && ::WindowFromPoint(at) == Handle()) {
+    ::SetCursor(CursorOf(pointer_));
+  }
+}
+
+void PaneWindow::ReleaseCapture() {
+  if (Handle() && ::GetCapture() == Handle()) ::ReleaseCapture();
+}
+
+DropEffect PaneWindow::Drag(const DataContent& data, DropEffect allowed, DragFeedback* feedback) {
+  if (!Handle()) return DropEffect::None;
+  ReleaseCapture();
+  return RunDrag(data, allowed, feedback);
+}
+
+void PaneWindow::SetAcceptsDrops(bool accepts) {
+  if (accepts && Handle()) {
+    drops_.Register(Handle(), events_);
+  } else {
+    drops_.Revoke();
+  }
+}
+
+std::optional<LRESULT> PaneWindow::Receive(const WindowMessage& message) {
+  if (const HWND child = ChildOf(message); child && child != Handle()) {
+    return ReceiveForChild(message);
+  }
+  switch (message.id) {
+    case WM_PAINT:
+      return Paint();
+    case WM_PRINTCLIENT:
+      CopyCanvas(reinterpret_cast<HDC>(message.wParam), canvas_, {0, 0});
+      return 0;
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_SIZE:
+      return Resize();
+    case WM_SETFOCUS:
+      events_.OnFocus(true);
+      return 0;
+    case WM_KILLFOCUS:
+      events_.OnFocus(false);
+      return 0;
+    case WM_DESTROY:
+      drops_.Revoke();
+      return std::nullopt;
+    default:
+      break;
+  }
+  if (message.id >= WM_KEYFIRST && message.id <= WM_KEYLAST) return ReceiveKey(message);
+  return ReceivePointer(message);
+}
+
+std::optional<LRESULT> PaneWindow::ReceivePointer(const WindowMessage& message) {
+  switch (message.id) {
+    case WM_LBUTTONDOWN:
+      return Press(Button::Left, message, false);
+    case WM_RBUTTONDOWN:
+      return Press(Button::Right, message, false);
+    case WM_MBUTTONDOWN:
+      return Press(Button::Middle, message, false);
+    case WM_LBUTTONDBLCLK:
+      return Press(Button::Left, message, true);
+    case WM_RBUTTONDBLCLK:
+      return Press(Button::Right, message, true);
+    case WM_MBUTTONDBLCLK:
+      return Press(Button::Middle, message, true);
+    case WM_LBUTTONUP:
+      return Release(Button::Left, message);
+    case WM_RBUTTONUP:
+      return Release(Button::Right, message);
+    case WM_MBUTTONUP:
+      return Release(Button::Middle, message);
+    case WM_MOUSEMOVE:
+      events_.OnMouseMove(MouseEventOf(message));
+      return 0;
+    case WM_MOUSEWHEEL:
+      return Turn(message);
+    case WM_CAPTURECHANGED:
+      held_ = 0;
+      return 0;
+    case WM_SETCURSOR:
+      return ShowPointer(message);
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<LRESULT> PaneWindow::ReceiveKey(const WindowMessage& message) {
+  switch (message.id) {
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+      return KeyDown(message);
+    case WM_KEYUP:
+    case WM_SYSKEYUP:
+      return KeyUp(message);
+    case WM_CHAR: {
+      CharEvent event{static_cast<char16_t>(message.wParam)};
+      events_.OnChar(event);
+      return 0;
+    }
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<LRESULT> PaneWindow::ReceiveForChild(const WindowMessage& message) {
+  NativeWindow* child = Of(ChildOf(message));
+  return child ? child->Reflect(message) : std::nullopt;
+}
+
+LRESULT PaneWindow::Paint() {
+  PAINTSTRUCT paint;
+  const HDC dc = ::BeginPaint(Handle(), &paint);
+  CopyCanvas(dc, canvas_, {0, 0});
+  ::EndPaint(Handle(), &paint);
+  return 0;
+}
+
+LRESULT PaneWindow::Resize() {
+  RECT client{};
+  ::GetClientRect(Handle(), &client);
+  const Size size = RectOf(client).Size();
+  if (size == canvas_.Size()) return 0;
+  Surface fresh(size);
+  if (!canvas_.Empty()) BitBlt(fresh, canvas_.Area(), canvas_, {0, 0}, RasterOp::SrcCopy);
+  canvas_ = std::move(fresh);
+  ::InvalidateRect(Handle(), nullptr, FALSE);
+  events_.OnResize();
+  return 0;
+}
+
+LRESULT PaneWindow::Press(Button button, const WindowMessage& message, bool second) {
+  if (focusable_) ::SetFocus(Handle());
+  if (held_ == 0) ::SetCapture(Handle());
+  held_ |= BitOf(button);
+  if (second) {
+    events_.OnDoubleClick(button, MouseEventOf(message));
+  } else {
+    events_.OnMouseDown(button, MouseEventOf(message));
+  }
+  return 0;
+}
+
+LRESULT PaneWindow::Release(Button button, const WindowMessage& message) {
+  held_ &= ~BitOf(button);
+  if (held_ == 0) ReleaseCapture();
+  events_.OnMouseUp(button, MouseEventOf(message));
+  return 0;
+}
+
+LRESULT PaneWindow::Turn(const WindowMessage& message) {
+  // Unlike the others, this message has screen coordinates.
+  POINT at{GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)};
+  ::ScreenToClient(Handle(), &at);
+  MouseEvent event =
+      MouseEventOf({message.id, GET_KEYSTATE_WPARAM(message.wParam), MAKELPARAM(at.x, at.y)});
+  events_.OnMouseWheel(GET_WHEEL_DELTA_WPARAM(message.wParam) / WHEEL_DELTA, event);
+  return 0;
+}
+
+std::optional<LRESULT> PaneWindow::KeyDown(const WindowMessage& message) {
+  KeyEvent event{static_cast<int>(message.wParam), ModifiersOfMessage()};
+  events_.OnKeyDown(event);
+  if (!event.handled) return std::nullopt;
+  if (Handle()) SwallowCharacter(Handle());
+  return 0;
+}
+
+std::optional<LRESULT> PaneWindow::KeyUp(const WindowMessage& message) {
+  KeyEvent event{static_cast<int>(message.wParam), ModifiersOfMessage()};
+  events_.OnKeyUp(event);
+  return event.handled ? std::optional<LRESULT>(0) : std::nullopt;
+}
+
+std::optional<LRESULT> PaneWindow::ShowPointer(const WindowMessage& message) {
+  const bool ownClient =
+      reinterpret_cast<HWND>(message.wParam) == Handle() && LOWORD(message.lParam) == HTCLIENT;
+  if (!ownClient) return std::nullopt;
+  ::SetCursor(CursorOf(pointer_));
+  return TRUE;
+}
+
+void PaneWindow::PaintBehind(HWND child, HDC dc) const {
+  POINT origin{0, 0};
+  ::MapWindowPoints(child, Handle(), &origin, 1);
+  CopyCanvas(dc, canvas_, PointOf(origin));
+}
+
+bool Win32Pane::Make(HWND parent, const Rect& bounds) {
+  return NativeWindow::Make({.className = kWindowClass,
+                             .style = WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS,
+                             .bounds = bounds,
+                             .parent = parent});
+}
+
+}  // namespace platform

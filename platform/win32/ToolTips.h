@@ -1,0 +1,23 @@
+// The tool tips of one top-level window and its children: one small window of the system.
+#pragma once
+
+#include <string_view>
+
+#include "platform/win32/handles.h"
+
+namespace platform {
+
+class ToolTips {
+ public:
+  explicit ToolTips(HWND owner) : owner_(owner) {}
+  /// An empty text takes the tip away.
+  void Set(HWND window, std::u16string_view text);
+
+ private:
+  bool Ready();
+
+  HWND owner_;
+  HWND tips_ = nullptr;  // destroyed by the system with its owner
+};
+
+}  // namespace platform

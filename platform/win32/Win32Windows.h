@@ -1,0 +1,25 @@
+// Makes windows and answers for those on the screen.
+#pragma once
+
+#include "platform/win32/win.h"
+#include "platform/window.h"
+
+namespace platform {
+
+class Win32Windows final : public Windows {
+ public:
+  [[nodiscard]] std::unique_ptr<TopWindow> NewTopWindow(const TopWindowOptions& options,
+                                                        TopWindowEvents& events) override;
+  [[nodiscard]] std::unique_ptr<Pane> NewPane(Pane& parent, const Rect& bounds, bool focusable,
+                                              PaneEvents& events) override;
+  [[nodiscard]] Foreground ForegroundWindow() override;
+  [[nodiscard]] const Window* WindowAt(Point screen) override;
+  void HideWindowsOfClass(std::u16string_view prefix) override;
+};
+
+/// The system's window of a pane of this desktop; null of a husk.
+HWND HandleOf(Pane& pane);
+/// The same of a window that may be missing.
+HWND HandleOf(TopWindow* window);
+
+}  // namespace platform
