@@ -153,14 +153,14 @@ def _dots(pictures, backdrop):
 
 
 def _icon_row(pictures, backdrop):
-    names = ["programs", "bold", "italic", "underline", "left", "centre", "right"]
+    names = ["Programs", "Bold", "Italic", "Underline", "Left", "Centre", "Right"]
     x = 4
     for size in (16, 20, 24, 32, 48, 64):
         backdrop.alpha_composite(pictures.icon("Dorvalin.ico", size), (x, 4))
         x += size + 6
     for row, size in enumerate((16, 32)):
         for i, name in enumerate(names):
-            backdrop.alpha_composite(pictures.icon(f"{name}.ico", size), (x + i * 36, 4 + row * 20))
+            backdrop.alpha_composite(pictures.icon(f"ico{name}.ico", size), (x + i * 36, 4 + row * 20))
     for i, (name, size) in enumerate([("imgLinkIcon", 16), ("imgLgLinkIcon", 32),
                                       ("imgPicker", 16)]):
         backdrop.alpha_composite(pictures.icon(f"{name}.ico", size), (x + 260 + i * 36, 4))

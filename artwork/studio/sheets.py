@@ -112,7 +112,7 @@ def results():
     for name in ("imgNote", "imgPicErr", "imgLink"):
         files[f"{name}.bmp"] = formats.bitmap(picture(f"pictures/{name}.svg", 64, 64))
     for name in BUILT_IN_ICONS:
-        files[f"{name}.ico"] = formats.icon(
+        files[f"ico{name.capitalize()}.ico"] = formats.icon(
             [picture(f"icons/{name}.svg", n, n) for n in ICON_SIZES])
     for name, hot_spot in POINTERS.items():
         files[f"{name}.cur"] = formats.pointer(_pointer_image(name), hot_spot)
