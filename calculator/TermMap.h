@@ -1,0 +1,76 @@
+// Where a term may be cut, found once for all its ranges.
+#pragma once
+
+#include <array>
+#include <memory_resource>
+#include <string_view>
+#include <vector>
+
+namespace dorvalin {
+
+/// Part of a term: the characters from `begin` to before `end`, counted from 0.
+struct Range {
+  int begin = 0;
+  int end = 0;
+
+  [[nodiscard]] bool Empty() const { return begin >= end; }
+};
+
+/// Tells of any range of the text, without walking it, what a walk over the range would meet first.
+/// Ranges may begin and end inside of brackets; what counts is the depth relative to their ends.
+class TermMap {
+ public:
+  static constexpr int kLevels = 3;
+
+  TermMap(std::u16string_view text, std::pmr::memory_resource* memory);
+
+  /// 1 for + and -, 2 for * / × ÷ §, 3 for ^, 0 for anything else.
+  [[nodiscard]] static int LevelOf(char16_t unit);
+
+  [[nodiscard]] bool Balances(Range range) const;
+
+  /// The last operator of the level outside of brackets that is no sign, -1 if there is none. An
+  /// operator at the very beginning cuts nothing and is not told.
+  [[nodiscard]] int LastCut(Range range, int level) const;
+
+  /// The first character that cannot belong to numbers and level 2 operators, `range.end` for none.
+  [[nodiscard]] int FirstWord(Range range) const;
+
+  /// The first bracket that opens outside of other brackets, `range.end` for none.
+  [[nodiscard]] int FirstGroup(Range range) const;
+
+  /// Behind the bracket that closes the group opened at `open`, in a range that balances.
+  [[nodiscard]] int GroupEnd(int open) const;
+
+ private:
+  /// What is known of the place in front of a character, or behind the last one.
+  struct Place {
+    int depth = 0;                                 ///< brackets open in front of it
+    std::array<int, kLevels> lastCut{-1, -1, -1};  ///< the nearest at the same depth before it
+    int nextWord = 0;
+    int nextGroup = 0;
+    int nextAtDepth = 0;  ///< the next place of the same depth, one beyond the last for none
+  };
+
+  /// One number for each depth that the text can reach.
+  class ByDepth {
+   public:
+    ByDepth(int length, int none, std::pmr::memory_resource* memory);
+    int& operator[](int depth) { return entries_[static_cast<std::size_t>(depth + length_)]; }
+
+   private:
+    int length_;
+    std::pmr::vector<int> entries_;
+  };
+
+  Place& At(int place) { return places_[static_cast<std::size_t>(place)]; }
+  const Place& At(int place) const { return places_[static_cast<std::size_t>(place)]; }
+  int Length() const { return static_cast<int>(places_.size()) - 1; }
+
+  void MarkCuts(std::u16string_view text, std::pmr::memory_resource* memory);
+  void MarkGroups(std::u16string_view text, std::pmr::memory_resource* memory);
+
+  std::pmr::vector<Place> places_;
+};
+
+}  // namespace dorvalin

@@ -1,0 +1,176 @@
+#include "calculator/TermSolver.h"
+
+#include "platform/text.h"
+
+namespace dorvalin {
+
+TermSolver::TermSolver(std::u16string_view text, const Words& words)
+    : text_(text), words_(words), map_(text, &memory_) {
+  frames_.reserve(8);
+}
+
+Solved TermSolver::Solve(Range range) {
+  const std::size_t base = frames_.size();
+  Step step = Ask(range);
+  while (step.asks || frames_.size() > base)
+    step = step.asks ? Open(step.range) : Resume(step.solved);
+  return step.solved;
+}
+
+TermSolver::Step TermSolver::Ask(Frame& frame, Part part, Range range) {
+  frame.awaited = part;
+  return {true, range, {}};
+}
+
+TermSolver::Step TermSolver::Open(Range untrimmed) {
+  const Range range = Trimmed(untrimmed);
+  if (range.Empty()) return Answer(Failure(kNothingToSolve));
+  // However it is cut, its leftmost part does not balance either.
+  if (!map_.Balances(range)) return Answer(Failure(kBracketsDoNotBalance));
+  if (remembers_) {
+    const auto found = remembered_.find(KeyOf(range));
+    if (found != remembered_.end()) return Answer(found->second);
+  }
+  frames_.push_back({.range = range});
+  return Settle(Begin(frames_.back()));
+}
+
+TermSolver::Step TermSolver::Resume(const Solved& part) {
+  return Settle(Continue(frames_.back(), part));
+}
+
+// A range that is solved leaves the stack.
+TermSolver::Step TermSolver::Settle(const Step& step) {
+  if (step.asks) return step;
+  if (remembers_) remembered_.emplace(KeyOf(frames_.back().range), step.solved);
+  frames_.pop_back();
+  return step;
+}
+
+// The order of what follows is what users know as precedence.
+
+TermSolver::Step TermSolver::Begin(Frame& frame) {
+  Step step;
+  if (Splits(frame, 1, step)) return step;
+  return BeginFactor(frame);
+}
+
+bool TermSolver::Splits(Frame& frame, int level, Step& step) const {
+  const Split split = FindSplit(frame.range, level);
+  if (split.kind == Split::Kind::None) return false;
+  frame.at = split.at;
+  if (split.kind == Split::Kind::Between) {
+    step = Ask(frame, Part::LeftOperand, {frame.range.begin, split.at});
+  } else if (level == 1) {
+    frame.left = 0;
+    step = AskRightOperand(frame);
+  } else {
+    step = Answer(Failure(kOperandMissing));
+  }
+  return true;
+}
+
+TermSolver::Split TermSolver::FindSplit(Range range, int level) const {
+  if (const int cut = map_.LastCut(range, level); cut >= 0) return {Split::Kind::Between, cut};
+  const bool leading =
+      !range.Empty() && TermMap::LevelOf(Unit(range.begin)) == level && map_.Balances(range);
+  return {leading ? Split::Kind::Leading : Split::Kind::None, range.begin};
+}
+
+TermSolver::Step TermSolver::AskRightOperand(Frame& frame) const {
+  if (frame.at + 1 == frame.range.end) return Answer(Failure(kOperandMissing));
+  return Ask(frame, Part::RightOperand, {frame.at + 1, frame.range.end});
+}
+
+// Only the first character that is not of plain arithmetic is tried: "2 pi" is a product there, and
+// "2e3" is none, because "e3" is nothing.
+TermSolver::Step TermSolver::BeginFactor(Frame& frame) {
+  frame.at = map_.FirstWord(frame.range);
+  if (frame.at == frame.range.begin || frame.at == frame.range.end) return BeginTightParts(frame);
+  return Ask(frame, Part::Factor, {frame.range.begin, frame.at});
+}
+
+TermSolver::Step TermSolver::BeginTightParts(Frame& frame) {
+  Step step;
+  if (Splits(frame, 2, step) || Splits(frame, 3, step)) return step;
+  const int last = frame.range.end - 1;
+  if (IsPostfix(Unit(last))) return Ask(frame, Part::PostfixOperand, {frame.range.begin, last});
+  return BeginGroup(frame);
+}
+
+TermSolver::Step TermSolver::BeginGroup(Frame& frame) const {
+  const int open = map_.FirstGroup(frame.range);
+  if (open == frame.range.end) return Answer(SolveWord(Text(frame.range), words_));
+  if (open > frame.range.begin) {
+    const Range before{frame.range.begin, open};
+    frame.function = FindFunction(platform::Lower(Text(Trimmed(before))));
+    if (!frame.function) {
+      frame.at = open;
+      return Ask(frame, Part::NoFunction, before);
+    }
+    if (!frame.function->apply) return Answer(Failure(kNothingToSolve));
+  }
+  frame.at = map_.GroupEnd(open);
+  return Ask(frame, Part::Group, {open + 1, frame.at - 1});
+}
+
+TermSolver::Step TermSolver::Continue(Frame& frame, const Solved& part) {
+  if (frame.awaited == Part::Factor || frame.awaited == Part::SilentProduct)
+    return AfterFactor(frame, part);
+  if (part.Failed()) return Answer(part);
+  const double right = part.value.value_or(0);
+  switch (frame.awaited) {
+    case Part::LeftOperand:
+      frame.left = part.value.value_or(frame.left);
+      return AskRightOperand(frame);
+    case Part::RightOperand:
+      return Answer(ApplyOperator(Unit(frame.at), frame.left, right));
+    case Part::PostfixOperand:
+      return Answer(ApplyPostfix(Unit(frame.range.end - 1), part.value.value_or(frame.left)));
+    case Part::Group:
+      return AfterGroup(frame, part);
+    case Part::NoFunction:
+      frame.left = part.value.value_or(frame.left);
+      // The last character is taken for the closing bracket, whatever it is.
+      return Ask(frame, Part::LastGroup, {frame.at + 1, frame.range.end - 1});
+    default:
+      return Answer(ValueIfFinite(frame.left * right));
+  }
+}
+
+// A failure here is none yet: the range is cut in another way.
+TermSolver::Step TermSolver::AfterFactor(Frame& frame, const Solved& part) {
+  if (part.Failed()) {
+    remembers_ = true;
+    return BeginTightParts(frame);
+  }
+  if (frame.awaited == Part::SilentProduct)
+    return Answer(ValueIfFinite(frame.left * part.value.value_or(0)));
+  frame.left = part.value.value_or(frame.left);
+  return Ask(frame, Part::SilentProduct, {frame.at, frame.range.end});
+}
+
+TermSolver::Step TermSolver::AfterGroup(Frame& frame, const Solved& part) const {
+  const Solved group = frame.function ? CallFunction(*frame.function, part, frame.left) : part;
+  if (group.Failed()) return Answer(group);
+  frame.left = group.value.value_or(frame.left);
+  if (frame.at == frame.range.end) return Answer({kSolved, frame.left});
+  return Ask(frame, Part::BehindGroup, {frame.at, frame.range.end});
+}
+
+std::u16string_view TermSolver::Text(Range range) const {
+  return text_.substr(static_cast<std::size_t>(range.begin),
+                      static_cast<std::size_t>(range.end - range.begin));
+}
+
+Range TermSolver::Trimmed(Range range) const {
+  while (!range.Empty() && Unit(range.end - 1) == u' ') --range.end;
+  while (!range.Empty() && Unit(range.begin) == u' ') ++range.begin;
+  return range;
+}
+
+std::uint64_t TermSolver::KeyOf(Range range) {
+  return static_cast<std::uint64_t>(range.begin) << 32 | static_cast<std::uint32_t>(range.end);
+}
+
+}  // namespace dorvalin
