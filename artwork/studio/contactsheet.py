@@ -194,5 +194,5 @@ def write(folder, sheets, small):
              + [_enlarged(_stacked(notes, sideways=True), 3)]).save(sheets / "dots.png")
     _stacked(icons + [_enlarged(image, 3) for image in icons]).save(sheets / "icons.png")
     small.parent.mkdir(parents=True, exist_ok=True)
-    _stacked([_stacked([_stacked(bubbles, sideways=False), _stacked(wheels[:3])], sideways=True),
+    _stacked([_stacked([_stacked(bubbles), _stacked(wheels[:3])], sideways=True),
               _stacked(icons)]).save(small, optimize=True)
