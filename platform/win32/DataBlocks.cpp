@@ -1,0 +1,179 @@
+#include "platform/win32/DataBlocks.h"
+
+#include <shlobj.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstddef>
+#include <cstring>
+
+#include "platform/win32/DibMemory.h"
+#include "platform/win32/wide.h"
+
+namespace platform {
+namespace {
+
+std::string_view AsBytes(std::u16string_view text) {
+  return {reinterpret_cast<const char*>(text.data()), text.size() * sizeof(char16_t)};
+}
+
+template <typename T>
+void Append(std::string& bytes, const T& value) {
+  bytes.append(reinterpret_cast<const char*>(&value), sizeof(value));
+}
+
+BITMAPINFOHEADER PictureHeader(Size size) {
+  BITMAPINFOHEADER header{};
+  header.biSize = sizeof(header);
+  header.biWidth = size.width;
+  header.biHeight = size.height;
+  header.biPlanes = 1;
+  header.biBitCount = 24;
+  return header;
+}
+
+std::size_t BytesPerRow(LONG width, int bitsPerPixel) {
+  return (static_cast<std::size_t>(width) * bitsPerPixel + 31) / 32 * 4;
+}
+
+void AppendRow(std::string& bytes, const Pixel* row, int width) {
+  for (int x = 0; x < width; ++x) bytes.append(reinterpret_cast<const char*>(row + x), 3);
+  bytes.append(BytesPerRow(width, 24) - static_cast<std::size_t>(width) * 3, '\0');
+}
+
+/// Bytes between the header and the pixels: the masks of the colours and the palette.
+std::size_t ColourTableBytes(const BITMAPINFOHEADER& header) {
+  const bool masksFollow =
+      header.biCompression == BI_BITFIELDS && header.biSize == sizeof(BITMAPINFOHEADER);
+  std::size_t colours = header.biClrUsed;
+  if (colours == 0 && header.biBitCount <= 8) colours = std::size_t{1} << header.biBitCount;
+  return (masksFollow ? 3 * sizeof(DWORD) : 0) + colours * sizeof(RGBQUAD);
+}
+
+bool KnownDepth(WORD bits) {
+  static constexpr WORD kDepths[] = {1, 4, 8, 16, 24, 32};
+  return std::ranges::find(kDepths, bits) != std::end(kDepths);
+}
+
+/// Bytes that the pixels must have; none for forms that a program can't expect to be understood.
+std::optional<std::size_t> PixelBytes(const BITMAPINFOHEADER& header) {
+  constexpr LONG kLargestSide = 0x7FFF;
+  const LONG height = header.biHeight < 0 ? -header.biHeight : header.biHeight;
+  if (header.biWidth <= 0 || header.biWidth > kLargestSide) return {};
+  if (height <= 0 || height > kLargestSide || !KnownDepth(header.biBitCount)) return {};
+  switch (header.biCompression) {
+    case BI_RGB:
+    case BI_BITFIELDS:
+      return BytesPerRow(header.biWidth, header.biBitCount) * height;
+    case BI_RLE4:
+    case BI_RLE8:
+      return header.biSizeImage;
+    default:
+      return {};
+  }
+}
+
+/// Where the pixels begin in the block; none when it does not hold what its header says.
+std::optional<std::size_t> PixelOffset(const BITMAPINFOHEADER& header, std::size_t blockBytes) {
+  if (header.biSize < sizeof(BITMAPINFOHEADER) || header.biSize > blockBytes) return {};
+  if (header.biClrUsed > 256) return {};
+  const std::optional<std::size_t> pixels = PixelBytes(header);
+  const std::size_t offset = header.biSize + ColourTableBytes(header);
+  if (!pixels || offset > blockBytes || *pixels > blockBytes - offset) return {};
+  return offset;
+}
+
+Surface Painted(const std::byte* bytes, std::size_t offset) {
+  const auto* info = reinterpret_cast<const BITMAPINFO*>(bytes);
+  const int width = static_cast<int>(info->bmiHeader.biWidth);
+  const int height = std::abs(static_cast<int>(info->bmiHeader.biHeight));
+  Surface picture(Size{width, height});
+  if (picture.Empty()) return picture;
+  ::StretchDIBits(DcOf(picture), 0, 0, width, height, 0, 0, width, height, bytes + offset, info,
+                  DIB_RGB_COLORS, SRCCOPY);
+  ::GdiFlush();
+  return picture;
+}
+
+}  // namespace
+
+UINT RichTextFormat() {
+  static const UINT format = ::RegisterClipboardFormatW(L"Rich Text Format");
+  return format;
+}
+
+OwnedGlobal BlockOfBytes(std::string_view bytes) {
+  // A block of no bytes would count as thrown away.
+  OwnedGlobal block(::GlobalAlloc(GMEM_MOVEABLE, std::max<std::size_t>(bytes.size(), 1)));
+  const Locked memory(block.get());
+  if (!memory.As<char>()) return {};
+  std::ranges::copy(bytes, memory.As<char>());
+  return block;
+}
+
+OwnedGlobal BlockOfRichText(std::string_view source) {
+  return BlockOfBytes(std::string(source) + '\0');
+}
+
+OwnedGlobal BlockOfText(std::u16string_view text) {
+  return BlockOfBytes(AsBytes(std::u16string(text) + u'\0'));
+}
+
+OwnedGlobal BlockOfPicture(const Surface& picture) {
+  // 24 bits: some programs take the unused byte of 32 bits for transparency.
+  std::string bytes;
+  Append(bytes, PictureHeader(picture.Size()));
+  for (int y = picture.Height(); y-- > 0;) AppendRow(bytes, picture.Row(y), picture.Width());
+  return BlockOfBytes(bytes);
+}
+
+OwnedGlobal BlockOfFiles(const std::vector<std::u16string>& files) {
+  std::string bytes;
+  Append(bytes, DROPFILES{sizeof(DROPFILES), {}, FALSE, TRUE});
+  for (const std::u16string& file : files) bytes += AsBytes(file + u'\0');
+  Append(bytes, u'\0');
+  return BlockOfBytes(bytes);
+}
+
+std::string BytesOfBlock(HGLOBAL block) {
+  const Locked memory(block);
+  if (!memory.As<char>()) return {};
+  return std::string(memory.As<char>(), ::GlobalSize(block));
+}
+
+std::string RichTextOfBlock(HGLOBAL block) {
+  std::string source = BytesOfBlock(block);
+  source.resize(std::min(source.find('\0'), source.size()));
+  return source;
+}
+
+std::u16string TextOfBlock(HGLOBAL block) {
+  const Locked memory(block);
+  if (!memory.As<char16_t>()) return {};
+  const std::u16string_view all(memory.As<char16_t>(), ::GlobalSize(block) / sizeof(char16_t));
+  return std::u16string(all.substr(0, all.find(u'\0')));
+}
+
+std::optional<Surface> PictureOfBlock(HGLOBAL block) {
+  const Locked memory(block);
+  const std::size_t bytes = memory.As<std::byte>() ? ::GlobalSize(block) : 0;
+  if (bytes < sizeof(BITMAPINFOHEADER)) return {};
+  const auto offset = PixelOffset(*memory.As<BITMAPINFOHEADER>(), bytes);
+  if (!offset) return {};
+  Surface picture = Painted(memory.As<std::byte>(), *offset);
+  if (picture.Empty()) return {};
+  return picture;
+}
+
+std::vector<std::u16string> FilesOfBlock(HGLOBAL block) {
+  const auto drop = static_cast<HDROP>(block);
+  const UINT count = block ? ::DragQueryFileW(drop, 0xFFFFFFFF, nullptr, 0) : 0;
+  std::vector<std::u16string> files(count);
+  for (UINT i = 0; i < count; ++i) {
+    files[i].resize(::DragQueryFileW(drop, i, nullptr, 0));
+    ::DragQueryFileW(drop, i, WideBuffer(files[i]), static_cast<UINT>(files[i].size() + 1));
+  }
+  return files;
+}
+
+}  // namespace platform

@@ -1,0 +1,22 @@
+// The window of another program that has the keyboard, as far as typing needs to know it.
+#pragma once
+
+#include "platform/win32/KeyBatch.h"
+
+namespace platform {
+
+/// Waits, without pumping, until the activation is at another program's window. For the moments in
+/// which no window has it keys are lost. Gives up after `milliseconds`.
+void WaitForOtherForeground(DWORD milliseconds);
+
+class TypingTarget {
+ public:
+  /// Injects the batch and returns when the program in the foreground has taken it, or has not
+  /// done so for long. False: not all of it was injected.
+  bool Take(KeyBatch& batch);
+
+ private:
+  bool answers_ = true;  // the last batch was taken in time
+};
+
+}  // namespace platform

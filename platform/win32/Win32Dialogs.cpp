@@ -1,0 +1,45 @@
+#include "platform/win32/Win32Dialogs.h"
+
+#include "platform/win32/WindowHandle.h"
+#include "platform/win32/fonts.h"
+#include "platform/win32/wide.h"
+
+namespace platform {
+namespace {
+
+Answer Unanswered(MessageButtons buttons) {
+  switch (buttons) {
+    case MessageButtons::Ok:
+      return Answer::Ok;
+    case MessageButtons::YesNo:
+      return Answer::No;
+    default:
+      return Answer::Cancel;
+  }
+}
+
+}  // namespace
+
+Answer Win32Dialogs::ShowMessage(const Message& message) {
+  const auto style = static_cast<UINT>(message.buttons) | static_cast<UINT>(message.icon);
+  const int answer =
+      ::MessageBoxW(HandleOf(message.owner), Wide(message.text), Wide(message.title), style);
+  return answer == 0 ? Unanswered(message.buttons) : static_cast<Answer>(answer);
+}
+
+std::optional<FontChoice> Win32Dialogs::ChooseFont(const FontChoice& start, TopWindow* owner) {
+  LOGFONTW description = LogFontOf(start.font);
+  CHOOSEFONTW dialog{};
+  dialog.lStructSize = sizeof(dialog);
+  dialog.hwndOwner = HandleOf(owner);
+  dialog.lpLogFont = &description;
+  dialog.Flags =
+      CF_SCREENFONTS | CF_INITTOLOGFONTSTRUCT | CF_FORCEFONTEXIST | CF_NOSCRIPTSEL | CF_EFFECTS;
+  dialog.rgbColors = start.colour;
+  if (!::ChooseFontW(&dialog)) return {};
+  FontChoice choice{FontOf(description), dialog.rgbColors};
+  choice.font.points = dialog.iPointSize / 10.0;
+  return choice;
+}
+
+}  // namespace platform

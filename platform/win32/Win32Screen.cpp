@@ -1,0 +1,51 @@
+#include "platform/win32/Win32Screen.h"
+
+#include "platform/win32/DibMemory.h"
+
+namespace platform {
+namespace {
+
+/// All monitors together.
+Rect WholeScreen() {
+  return Rect::At({::GetSystemMetrics(SM_XVIRTUALSCREEN), ::GetSystemMetrics(SM_YVIRTUALSCREEN)},
+                  {::GetSystemMetrics(SM_CXVIRTUALSCREEN), ::GetSystemMetrics(SM_CYVIRTUALSCREEN)});
+}
+
+}  // namespace
+
+platform::Size Win32Screen::Size() {
+  return {::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN)};
+}
+
+int Win32Screen::Depth() {
+  const BorrowedDc screen(nullptr);
+  if (::GetDeviceCaps(screen.get(), RASTERCAPS) & RC_PALETTE) return 0;
+  return ::GetDeviceCaps(screen.get(), BITSPIXEL) * ::GetDeviceCaps(screen.get(), PLANES);
+}
+
+Colour Win32Screen::SystemColourOf(SystemColour colour) {
+  return ::GetSysColor(static_cast<int>(colour));
+}
+
+std::optional<Surface> Win32Screen::Capture(const Rect& area) {
+  Surface picture(area.Size());
+  const BorrowedDc screen(nullptr);
+  if (picture.Empty() || !screen.get()) return {};
+  const Rect seen = area.Intersected(WholeScreen());
+  const Point to = seen.Origin() - area.Origin();
+  if (!seen.Empty() && !::BitBlt(DcOf(picture), to.x, to.y, seen.Width(), seen.Height(),
+                                 screen.get(), seen.left, seen.top, SRCCOPY)) {
+    return {};
+  }
+  ::GdiFlush();
+  return picture;
+}
+
+std::optional<Colour> Win32Screen::ColourAt(Point p) {
+  const BorrowedDc screen(nullptr);
+  const COLORREF colour = ::GetPixel(screen.get(), p.x, p.y);
+  if (colour == CLR_INVALID) return {};
+  return colour;
+}
+
+}  // namespace platform

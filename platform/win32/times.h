@@ -1,0 +1,28 @@
+// Wall-clock times between the ports' form and the system's.
+#pragma once
+
+#include "platform/clock.h"
+#include "platform/win32/win.h"
+
+namespace platform {
+
+inline DateTime DateTimeOf(const SYSTEMTIME& t) {
+  return {t.wYear, t.wMonth, t.wDay, t.wHour, t.wMinute, t.wSecond, t.wMilliseconds};
+}
+
+inline SYSTEMTIME SystemTimeOf(const DateTime& t) {
+  const auto word = [](int number) { return static_cast<WORD>(number); };
+  return {word(t.year), word(t.month),  word(t.day),    word(DayOfWeek(t) % 7),
+          word(t.hour), word(t.minute), word(t.second), word(t.millisecond)};
+}
+
+/// A file's time by the local clock, as the shell shows it: with today's daylight saving.
+inline DateTime LocalTimeOf(const FILETIME& universal) {
+  FILETIME local{};
+  SYSTEMTIME parts{};
+  if (!::FileTimeToLocalFileTime(&universal, &local)) return {};
+  if (!::FileTimeToSystemTime(&local, &parts)) return {};
+  return DateTimeOf(parts);
+}
+
+}  // namespace platform
