@@ -14,6 +14,7 @@ class Files;
 class Input;
 class Locale;
 class Menus;
+class Pictures;
 class Pump;
 class Registry;
 class Screen;
@@ -33,6 +34,8 @@ class Desktop {
   virtual Input& input() = 0;
   virtual Locale& locale() = 0;
   virtual Menus& menus() = 0;
+  /// A desktop that says nothing else loads none.
+  virtual Pictures& pictures();
   virtual Pump& pump() = 0;
   virtual Registry& registry() = 0;
   virtual Screen& screen() = 0;
