@@ -83,8 +83,6 @@ class Parser {
         return CloseGroup();
       case u'{':
         return Braced();
-      case u'}':
-        return false;
       case u'~':
         ++at_;
         Press(key::kEnter, 1);
