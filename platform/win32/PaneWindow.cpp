@@ -3,23 +3,12 @@
 #include "platform/raster.h"
 #include "platform/win32/DibMemory.h"
 #include "platform/win32/DragSource.h"
+#include "platform/win32/MouseMessages.h"
 #include "platform/win32/Pointers.h"
 #include "platform/win32/wide.h"
 
 namespace platform {
 namespace {
-
-MouseEvent MouseEventOf(const WindowMessage& m) {
-  MouseEvent event;
-  event.at = {GET_X_LPARAM(m.lParam), GET_Y_LPARAM(m.lParam)};
-  event.modifiers = {.shift = (m.wParam & MK_SHIFT) != 0,
-                     .control = (m.wParam & MK_CONTROL) != 0,
-                     .alt = ::GetKeyState(VK_MENU) < 0};
-  event.left = (m.wParam & MK_LBUTTON) != 0;
-  event.right = (m.wParam & MK_RBUTTON) != 0;
-  event.middle = (m.wParam & MK_MBUTTON) != 0;
-  return event;
-}
 
 constexpr unsigned BitOf(Button button) { return 1U << static_cast<unsigned>(button); }
 

@@ -1,6 +1,7 @@
 #include "platform/win32/Win32Windows.h"
 
 #include "platform/win32/Win32TopWindow.h"
+#include "platform/win32/WindowHandle.h"
 #include "platform/win32/wide.h"
 
 namespace platform {
@@ -29,7 +30,7 @@ std::unique_ptr<TopWindow> Win32Windows::NewTopWindow(const TopWindowOptions& op
 
 std::unique_ptr<Pane> Win32Windows::NewPane(Pane& parent, const Rect& bounds, bool focusable,
                                             PaneEvents& events) {
-  const HWND handle = HandleOf(parent);
+  const HWND handle = HandleOf(&parent);
   if (!handle) return nullptr;
   auto pane = std::make_unique<Win32Pane>(events, focusable);
   return pane->Make(handle, bounds) ? std::move(pane) : nullptr;
@@ -48,12 +49,6 @@ const Window* Win32Windows::WindowAt(Point screen) {
 
 void Win32Windows::HideWindowsOfClass(std::u16string_view prefix) {
   ::EnumThreadWindows(::GetCurrentThreadId(), HideIfOfClass, reinterpret_cast<LPARAM>(&prefix));
-}
-
-HWND HandleOf(Pane& pane) { return dynamic_cast<PaneWindow&>(pane).Handle(); }
-
-HWND HandleOf(TopWindow* window) {
-  return window ? static_cast<Win32TopWindow*>(window)->Handle() : nullptr;
 }
 
 }  // namespace platform

@@ -1,7 +1,6 @@
 // Makes windows and answers for those on the screen.
 #pragma once
 
-#include "platform/win32/win.h"
 #include "platform/window.h"
 
 namespace platform {
@@ -16,10 +15,5 @@ class Win32Windows final : public Windows {
   [[nodiscard]] const Window* WindowAt(Point screen) override;
   void HideWindowsOfClass(std::u16string_view prefix) override;
 };
-
-/// The system's window of a pane of this desktop; null of a husk.
-HWND HandleOf(Pane& pane);
-/// The same of a window that may be missing.
-HWND HandleOf(TopWindow* window);
 
 }  // namespace platform

@@ -1,0 +1,104 @@
+#include "platform/win32/Win32Label.h"
+
+#include "platform/drawing.h"
+#include "platform/win32/DibMemory.h"
+#include "platform/win32/MouseMessages.h"
+#include "platform/win32/Pointers.h"
+#include "platform/win32/wide.h"
+
+namespace platform {
+namespace {
+
+UINT FormatOf(Alignment alignment) {
+  switch (alignment) {
+    case Alignment::Right:
+      return DT_RIGHT;
+    case Alignment::Centre:
+      return DT_CENTER;
+    case Alignment::Left:
+      break;
+  }
+  return DT_LEFT;
+}
+
+}  // namespace
+
+bool Win32Label::Make(HWND parent, const Rect& bounds, std::u16string_view caption) {
+  return MakeChild(parent, bounds, kWindowClass, 0, caption);
+}
+
+void Win32Label::SetCaption(std::u16string_view caption) {
+  SetWindowText(caption);
+  if (Handle()) ::InvalidateRect(Handle(), nullptr, FALSE);
+}
+
+std::optional<LRESULT> Win32Label::Receive(const WindowMessage& message) {
+  switch (message.id) {
+    case WM_PAINT:
+      return Paint();
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_LBUTTONDOWN:
+      ::SetCapture(Handle());
+      return Press(Button::Left, message);
+    case WM_RBUTTONDOWN:
+      return Press(Button::Right, message);
+    case WM_MBUTTONDOWN:
+      return Press(Button::Middle, message);
+    case WM_LBUTTONUP:
+      return Release(message);
+    case WM_LBUTTONDBLCLK:
+      TellDoubleClick();
+      return 0;
+    case WM_SETCURSOR:
+      ::SetCursor(CursorOf(pointer_));
+      return TRUE;
+    default:
+      return ControlOf::Receive(message);
+  }
+}
+
+LRESULT Win32Label::Press(Button button, const WindowMessage& message) {
+  if (MouseDown) MouseDown(button, MouseEventOf(message));
+  return 0;
+}
+
+LRESULT Win32Label::Release(const WindowMessage& message) {
+  if (::GetCapture() != Handle()) return 0;
+  ::ReleaseCapture();
+  const Rect area = Rect::At({0, 0}, NativeWindow::Bounds().Size());
+  if (area.Contains(MouseEventOf(message).at)) TellClick();
+  return 0;
+}
+
+LRESULT Win32Label::Paint() {
+  PAINTSTRUCT paint;
+  const HDC dc = ::BeginPaint(Handle(), &paint);
+  Surface surface(NativeWindow::Bounds().Size());
+  if (!surface.Empty()) {
+    DrawOn(surface);
+    ::BitBlt(dc, 0, 0, surface.Width(), surface.Height(), DcOf(surface), 0, 0, SRCCOPY);
+  }
+  ::EndPaint(Handle(), &paint);
+  return 0;
+}
+
+void Win32Label::DrawOn(Surface& surface) const {
+  const HDC dc = DcOf(surface);
+  const PaneWindow* parent = ShowsParent() ? Parent() : nullptr;
+  if (parent) {
+    parent->PaintBehind(Handle(), dc);
+  } else {
+    FillRect(surface, surface.Area(), backgroundColour_.value_or(::GetSysColor(COLOR_BTNFACE)));
+  }
+  const Selected font(dc, font_.get());
+  ::SetBkMode(dc, TRANSPARENT);
+  ::SetTextColor(dc, NativeWindow::Enabled() ? textColour_.value_or(::GetSysColor(COLOR_BTNTEXT))
+                                             : ::GetSysColor(COLOR_GRAYTEXT));
+  RECT area = RectOf(surface.Area());
+  const std::u16string caption = WindowText();
+  ::DrawTextW(dc, Wide(caption), static_cast<int>(caption.size()), &area,
+              FormatOf(style_.alignment) | DT_WORDBREAK | DT_NOPREFIX);
+}
+
+}  // namespace platform

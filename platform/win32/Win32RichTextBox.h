@@ -1,0 +1,37 @@
+// The system's rich edit control. It counts the end of a line as one character, the port as two
+// (CR LF); positions are translated at this edge.
+#pragma once
+
+#include "platform/win32/ControlWindow.h"
+
+namespace platform {
+
+class Win32RichTextBox final : public ControlOf<RichTextBox> {
+ public:
+  Win32RichTextBox() : ControlOf(Background::Own) {}
+  bool Make(HWND parent, const Rect& bounds, const TextBoxStyle& style);
+
+  void SetColours(std::optional<Colour> text, std::optional<Colour> background) override;
+  [[nodiscard]] std::u16string Text() const override;
+  void SetText(std::u16string_view text) override;
+  [[nodiscard]] int SelStart() const override;
+  [[nodiscard]] int SelLength() const override;
+  void Select(int start, int length) override;
+  void ReplaceSelection(std::u16string_view text) override;
+  [[nodiscard]] std::string RichText() const override;
+  bool SetRichText(std::string_view source) override;
+  [[nodiscard]] RichSelection Selection() const override;
+  void SetSelection(const RichSelection& properties) override;
+
+ protected:
+  void OnCommand(int code) override;
+  LRESULT OnNotify(const NMHDR& notification) override;
+
+ private:
+  std::u16string OwnText() const;
+  bool StreamIn(std::string_view source);
+
+  bool settingText_ = false;
+};
+
+}  // namespace platform

@@ -1,0 +1,188 @@
+#include "platform/win32/Win32TreeView.h"
+
+#include "platform/win32/IconHandle.h"
+#include "platform/win32/wide.h"
+
+namespace platform {
+namespace {
+
+constexpr int kIconSize = 16;
+
+TreeNode NodeOf(const TVITEMW& item) { return static_cast<TreeNode>(item.lParam); }
+
+}  // namespace
+
+bool Win32TreeView::Make(HWND parent, const Rect& bounds) {
+  if (!MakeChild(
+          parent, bounds, WC_TREEVIEWW,
+          TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_SHOWSELALWAYS | TVS_DISABLEDRAGDROP,
+          {}, WS_EX_CLIENTEDGE)) {
+    return false;
+  }
+  images_.reset(::ImageList_Create(kIconSize, kIconSize, ILC_COLOR32 | ILC_MASK, 8, 8));
+  SendPointer(TVM_SETIMAGELIST, TVSIL_NORMAL, images_.get());
+  return true;
+}
+
+void Win32TreeView::SetColours(std::optional<Colour> text, std::optional<Colour> background) {
+  constexpr LPARAM kSystems = -1;
+  Send(TVM_SETTEXTCOLOR, 0, text ? static_cast<LPARAM>(*text) : kSystems);
+  Send(TVM_SETBKCOLOR, 0, background ? static_cast<LPARAM>(*background) : kSystems);
+}
+
+int Win32TreeView::ImageOf(const Icon& icon) {
+  const auto [place, fresh] = imageOf_.try_emplace(icon, -1);
+  if (fresh) {
+    const OwnedIcon handle = IconHandleOf(icon);
+    place->second = handle ? ::ImageList_AddIcon(images_.get(), handle.get()) : -1;
+  }
+  return place->second;
+}
+
+TreeNode Win32TreeView::Add(TreeNode parent, std::u16string_view caption, const Icon& icon) {
+  if (!Handle()) return 0;
+  std::u16string text(caption);
+  TVINSERTSTRUCTW insertion{};
+  insertion.hParent = parent ? ItemOf(parent) : TVI_ROOT;
+  insertion.hInsertAfter = Sorted(parent) ? TVI_SORT : TVI_LAST;
+  insertion.item.mask = TVIF_TEXT | TVIF_PARAM;
+  insertion.item.pszText = WideBuffer(text);
+  insertion.item.lParam = last_ + 1;
+  // Without an image of its own an item would show the first one.
+  insertion.item.mask |= TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+  insertion.item.iImage = insertion.item.iSelectedImage = icon ? ImageOf(icon) : I_IMAGENONE;
+  const auto item = reinterpret_cast<HTREEITEM>(SendPointer(TVM_INSERTITEMW, 0, &insertion));
+  if (!item) return 0;
+  items_[++last_] = item;
+  return last_;
+}
+
+void Win32TreeView::Forget(TreeNode node) {
+  items_.erase(node);
+  sorted_.erase(node);
+}
+
+void Win32TreeView::Remove(TreeNode node) {
+  if (const HTREEITEM item = node ? ItemOf(node) : nullptr) {
+    SendPointer(TVM_DELETEITEM, 0, item);
+  }
+}
+
+void Win32TreeView::Clear() {
+  SendPointer(TVM_DELETEITEM, 0, TVI_ROOT);
+  items_.clear();
+}
+
+void Win32TreeView::SetSorted(TreeNode parent, bool sorted) {
+  if (!sorted) {
+    sorted_.erase(parent);
+    return;
+  }
+  sorted_.insert(parent);
+  SendPointer(TVM_SORTCHILDREN, FALSE, parent ? ItemOf(parent) : TVI_ROOT);
+}
+
+HTREEITEM Win32TreeView::ItemOf(TreeNode node) const {
+  const auto found = items_.find(node);
+  return found == items_.end() ? nullptr : found->second;
+}
+
+TreeNode Win32TreeView::NodeOf(HTREEITEM handle) const {
+  if (!handle) return 0;
+  TVITEMW item{};
+  item.mask = TVIF_PARAM;
+  item.hItem = handle;
+  SendPointer(TVM_GETITEMW, 0, &item);
+  return static_cast<TreeNode>(item.lParam);
+}
+
+TreeNode Win32TreeView::Neighbour(UINT relation, TreeNode node) const {
+  const HTREEITEM item = node ? ItemOf(node) : TVI_ROOT;
+  if (!item) return 0;
+  return NodeOf(reinterpret_cast<HTREEITEM>(SendPointer(TVM_GETNEXTITEM, relation, item)));
+}
+
+std::u16string Win32TreeView::Caption(TreeNode node) const {
+  wchar_t text[MAX_PATH + 1] = {};
+  TVITEMW item{};
+  item.mask = TVIF_TEXT;
+  item.hItem = ItemOf(node);
+  item.pszText = text;
+  item.cchTextMax = static_cast<int>(std::size(text));
+  if (item.hItem) SendPointer(TVM_GETITEMW, 0, &item);
+  return Text(text);
+}
+
+TreeNode Win32TreeView::Parent(TreeNode node) const {
+  return node ? Neighbour(TVGN_PARENT, node) : 0;
+}
+TreeNode Win32TreeView::FirstChild(TreeNode node) const {
+  return node ? Neighbour(TVGN_CHILD, node) : Neighbour(TVGN_ROOT, 0);
+}
+TreeNode Win32TreeView::Next(TreeNode node) const { return node ? Neighbour(TVGN_NEXT, node) : 0; }
+TreeNode Win32TreeView::Selected() const { return Neighbour(TVGN_CARET, 0); }
+
+void Win32TreeView::Select(TreeNode node) {
+  SendPointer(TVM_SELECTITEM, TVGN_CARET, node ? ItemOf(node) : nullptr);
+}
+
+bool Win32TreeView::Expanded(TreeNode node) const {
+  const HTREEITEM item = ItemOf(node);
+  if (!item) return false;
+  return (Send(TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(item), TVIS_EXPANDED) & TVIS_EXPANDED) !=
+         0;
+}
+
+void Win32TreeView::SetExpanded(TreeNode node, bool expanded) {
+  const HTREEITEM item = ItemOf(node);
+  if (!item || expanded == Expanded(node)) return;
+  // The system tells only of the first opening by code.
+  if (expanded && Expanding) Expanding(node);
+  SendPointer(TVM_EXPAND, expanded ? TVE_EXPAND : TVE_COLLAPSE, item);
+  if (!expanded && Collapsed) Collapsed(node);
+}
+
+TreeNode Win32TreeView::NodeAt(Point client) const {
+  TVHITTESTINFO hit{};
+  hit.pt = PointOf(client);
+  SendPointer(TVM_HITTEST, 0, &hit);
+  return (hit.flags & TVHT_ONITEM) ? NodeOf(hit.hItem) : 0;
+}
+
+void Win32TreeView::TellNodeClick(TreeNode node) {
+  if (node && NodeClick) NodeClick(node);
+}
+
+LRESULT Win32TreeView::OnNotify(const NMHDR& notification) {
+  const auto& change = reinterpret_cast<const NMTREEVIEWW&>(notification);
+  switch (notification.code) {
+    case TVN_ITEMEXPANDINGW:
+      if (change.action == TVE_EXPAND && Expanding) Expanding(platform::NodeOf(change.itemNew));
+      return FALSE;
+    case TVN_ITEMEXPANDEDW:
+      if (change.action == TVE_COLLAPSE && Collapsed) Collapsed(platform::NodeOf(change.itemNew));
+      return 0;
+    case TVN_SELCHANGEDW:
+      TellChange();
+      if (change.action == TVC_BYKEYBOARD) TellNodeClick(platform::NodeOf(change.itemNew));
+      return 0;
+    case TVN_DELETEITEMW:
+      Forget(platform::NodeOf(change.itemOld));
+      return 0;
+    case NM_CLICK: {
+      POINT at{};
+      ::GetCursorPos(&at);
+      ::ScreenToClient(Handle(), &at);
+      TellNodeClick(NodeAt(PointOf(at)));
+      TellClick();
+      return 0;
+    }
+    case NM_DBLCLK:
+      TellDoubleClick();
+      return 0;
+    default:
+      return 0;
+  }
+}
+
+}  // namespace platform
