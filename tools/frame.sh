@@ -60,3 +60,9 @@ build() {
   say "   the build \"$preset\" failed: $log" >&2
   return 1
 }
+
+# The word size whose programs this machine can start: what is shipped is i686, but Wine's 32-bit part
+# cannot be installed beside the other packages on every machine.
+startable_word_size() {
+  if [[ -x /usr/lib/wine/wine ]]; then echo i686; else echo x86_64; fi
+}

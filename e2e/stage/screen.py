@@ -10,14 +10,18 @@ from .picture import read_frame_buffer
 
 
 class Screen:
-    """An X server on a free display number, from open() to close()."""
+    """An X server on a free display number, from open() to close(); or a display that is there already
+    and stays as it is."""
 
-    def __init__(self, folder):
+    def __init__(self, folder, display=None):
         self._folder = folder
         self._server = None
-        self.display = None
+        self.display = display
+        self.is_borrowed = display is not None
 
     def open(self):
+        if self.is_borrowed:
+            return
         self._folder.mkdir(parents=True, exist_ok=True)
         self.display = self._start_server()
         try:
@@ -41,6 +45,8 @@ class Screen:
         return {"DISPLAY": self.display}
 
     def picture(self):
+        if self.is_borrowed:
+            raise StageError("only the screen of a stage's own can be pictured")
         return read_frame_buffer(self._folder / "Xvfb_screen0")
 
     def _start_server(self):

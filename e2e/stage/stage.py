@@ -123,11 +123,14 @@ class Editor:
 
 
 class Stage:
-    """A fresh Windows on a screen of its own; `with` opens it and ends all that was started on it."""
+    """A fresh Windows on a screen of its own; `with` opens it and ends all that was started on it.
 
-    def __init__(self):
+    With a `display` Windows' desktop is a window on that display, for a person to use.
+    """
+
+    def __init__(self, display=None):
         self.folder = WORK / f"run-{os.getpid()}-{next(_numbers)}"
-        self._screen = Screen(self.folder / "screen")
+        self._screen = Screen(self.folder / "screen", display)
         self._prefix = Prefix(self.folder)
         self._probe = Probe()
         self._programs = []
@@ -159,8 +162,9 @@ class Stage:
         self._probe.open(self._env, self.folder / "probe.log")
         self.pointer = Pointer(self._screen.display)
         self.keyboard = Keyboard(self._screen.display)
-        self.pointer.park()
         self._probe.ask("windows")
+        if not self._screen.is_borrowed:
+            self.pointer.park()
 
     def close(self):
         """Ends every program, Windows and the screen, whatever state they are in."""
