@@ -12,7 +12,8 @@ KEY = r"HKCU\Software\Tolvo\Dorvalin"
 
 def show_to_a_person(display):
     with Stage(display) as stage:
-        stage.open_editor()
+        # The pointer is the person's: nothing here moves it.
+        stage.start("notepad")
         dorvalin = stage.start_dorvalin()
         print("Dorvalin runs. Hold the middle button (or press Scroll Lock) over the editor to get the wheel;\n"
               "the icon's menu has the entry that quits. Ctrl+C here ends everything as well.", flush=True)
