@@ -40,13 +40,14 @@ void PaintBubble(Surface& canvas, int function, const WheelFrame& frame) {
   const Point centre = frame.places[function - 1];
   const Point corner{centre.x - kBubbleSize / 2, centre.y - kBubbleSize / 2};
   const Point sprite = SpriteAt(function, LookOf(function, frame));
+  const Rect area = Rect::At(corner, kSprite);
   const Surface& sheet = BubbleSheet();
   if (frame.plainMasks) {
-    PaintPlain(canvas, Rect::At(corner, kSprite), sprite);
+    PaintPlain(canvas, area, sprite);
   } else if (frame.opacity == 255) {
-    SoftBlt(canvas, Rect::At(corner, kSprite), sheet, sprite, canvas, corner, sheet, kSoftMask);
+    SoftBlt(canvas, area, {sheet, sprite}, {canvas, corner}, {sheet, kSoftMask});
   } else {
-    SoftBltAlpha(canvas, Rect::At(corner, kSprite), sheet, sprite, canvas, corner, sheet, kSoftMask,
+    SoftBltAlpha(canvas, area, {sheet, sprite}, {canvas, corner}, {sheet, kSoftMask},
                  static_cast<std::uint8_t>(frame.opacity));
   }
 }
@@ -60,7 +61,7 @@ void PaintCaption(Surface& canvas, std::u16string_view caption) {
       Rect::At({(canvas.Width() - size.width) / 2, (canvas.Height() - size.height) / 2}, size);
   const Rect veil{box.left - 2, box.top - 1, box.right + 2, box.bottom + 1};
   if (TheDesktop().screen().Depth() >= 24) {
-    ColorBlt(canvas, veil, canvas, veil.Origin(), kWhite, kCaptionAlpha);
+    ColorBlt(canvas, veil, {canvas, veil.Origin()}, kWhite, kCaptionAlpha);
   } else {
     FillRect(canvas, veil, kWhite);
     FrameRect(canvas, veil, kBlack);

@@ -55,7 +55,7 @@ void frmAni::InLine() {
   for (int step = 1; step <= kSteps; ++step) {
     const HiResTime start = HiResTimer();
     rotation_ += kDegreesPerStep;
-    Draw(PlacesAt(double{step} / kSteps));
+    Draw(PlacesAt(static_cast<double>(step) / kSteps));
     SpinUntil(start + kStepTime);
   }
 }

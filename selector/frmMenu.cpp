@@ -171,8 +171,10 @@ void frmMenu::PaintBubble() {
   const Point at = BubbleInHost(Window().Bounds(), wheel->Window().Bounds(),
                                 wheel->BubbleCentre(wheel->ActiveBubble).y, state_);
   auto& canvas = Window().Canvas();
-  SoftBlt(canvas, Rect::At(at, {kBubbleSize, kBubbleSize}), BubbleSheet(),
-          SpriteAt(Index_, BubbleLook::Active), canvas, at, BubbleSheet(), kSoftMask);
+  KeyBlt(canvas, Rect::At(at, {kBubbleSize, kBubbleSize}),
+         {BubbleSheet(), SpriteAt(Index_, BubbleLook::Active)},
+         TheDesktop().screen().SystemColourOf(SystemColour::ButtonFace),
+         {BubbleSheet(), kSoftMask});
 }
 
 void frmMenu::DoFree() {
