@@ -125,10 +125,12 @@ class Editor:
 class Stage:
     """A fresh Windows on a screen of its own; `with` opens it and ends all that was started on it.
 
-    With a `display` Windows' desktop is a window on that display, for a person to use.
+    With a `display` Windows' desktop is a window on that display, for a person to use. `package` is the
+    folder that start_dorvalin takes the program from; else DORVALIN_PACKAGE names it.
     """
 
-    def __init__(self, display=None):
+    def __init__(self, display=None, package=None):
+        self._package = pathlib.Path(package or os.environ.get("DORVALIN_PACKAGE", PACKAGE))
         self.folder = WORK / f"run-{os.getpid()}-{next(_numbers)}"
         self._screen = Screen(self.folder / "screen", display)
         self._prefix = Prefix(self.folder)
@@ -201,15 +203,11 @@ class Stage:
         return self._programs[-1]
 
     def start_dorvalin(self, *arguments):
-        r"""Starts the program from C:\Dorvalin, where it lies with its data as it is shipped.
-
-        DORVALIN_PACKAGE names another folder with Dorvalin.exe to take it from.
-        """
+        r"""Starts the program from C:\Dorvalin, where it lies with its data as it is shipped."""
         target = self._prefix.drive_c / "Dorvalin"
         if not target.exists():
-            package = pathlib.Path(os.environ.get("DORVALIN_PACKAGE", PACKAGE))
-            refuse_unrunnable(package / "Dorvalin.exe")
-            shutil.copytree(package, target)
+            refuse_unrunnable(self._package / "Dorvalin.exe")
+            shutil.copytree(self._package, target)
         return self.start(r"C:\Dorvalin\Dorvalin.exe", *arguments)
 
     def open(self, program, *arguments):
