@@ -13,7 +13,7 @@ struct PointerInput {
   enum class Kind { Press, Release, Move, Wheel };
   Kind kind = Kind::Move;
   Button button = Button::Left;
-  MouseEvent state;  ///< `at` in screen pixels
+  MouseEvent state;     ///< `at` in screen pixels
   bool second = false;  ///< the second press of a double click
   int notches = 0;
 };

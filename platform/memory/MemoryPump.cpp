@@ -38,9 +38,8 @@ class MemoryPump::MemoryTimer final : public Timer {
 };
 
 std::unique_ptr<Timer> MemoryPump::NewTimer(int interval, std::function<void()> tick) {
-  auto ticking = std::make_shared<Ticking>(
-      Ticking{std::max<Duration>(kShortestInterval, std::chrono::milliseconds(interval)),
-              std::move(tick)});
+  auto ticking = std::make_shared<Ticking>(Ticking{
+      std::max<Duration>(kShortestInterval, std::chrono::milliseconds(interval)), std::move(tick)});
   // A timer that the system refuses exists and never ticks.
   if (!faults_.Fails("Pump.NewTimer")) timers_.push_back(ticking);
   return std::make_unique<MemoryTimer>(*this, std::move(ticking));

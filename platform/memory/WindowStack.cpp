@@ -79,10 +79,9 @@ DesktopWindow* WindowStack::Successor(const DesktopWindow& gone) const {
 }
 
 DesktopWindow* WindowStack::At(Point screen) const {
-  const auto hit =
-      std::find_if(order_.rbegin(), order_.rend(), [&](const DesktopWindow* window) {
-        return window->Shown() && window->Covers(screen);
-      });
+  const auto hit = std::find_if(order_.rbegin(), order_.rend(), [&](const DesktopWindow* window) {
+    return window->Shown() && window->Covers(screen);
+  });
   return hit != order_.rend() ? *hit : nullptr;
 }
 

@@ -1,0 +1,46 @@
+#include "platform/memory/MemoryMenus.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/memory/MemoryDesktop.h"
+#include "platform/memory/MemoryPump.h"
+#include "platform/memory/MemoryTopWindow.h"
+#include "platform/memory/WindowStack.h"
+#include "platform/text.h"
+
+namespace platform {
+namespace {
+
+bool Names(const std::u16string& caption, const MenuEntry& entry) {
+  return entry.caption == caption || ReplaceAll(entry.caption, u"&", u"") == caption;
+}
+
+}  // namespace
+
+MemoryMenus::MenuAnswer MemoryMenus::NextAnswer() {
+  if (answers_.empty()) return std::monostate{};
+  MenuAnswer answer = std::move(answers_.front());
+  answers_.pop_front();
+  return answer;
+}
+
+std::optional<int> MemoryMenus::PopUp(TopWindow& owner, Point screen, const Menu& menu,
+                                      MenuButtons buttons) {
+  if (desktop_.faults().Fails("Menus.PopUp")) return std::nullopt;
+  shown_.push_back({screen, menu, buttons});
+  auto& window = static_cast<MemoryTopWindow&>(owner);
+  if (window.Alive()) desktop_.stack().Activate(&window);
+  desktop_.pump().DoEvents();
+  if (whileOpen_) std::exchange(whileOpen_, nullptr)();
+  const MenuAnswer answer = NextAnswer();
+  const auto chosen = std::find_if(menu.begin(), menu.end(), [&](const MenuEntry& entry) {
+    if (entry.id == 0 || !entry.enabled || !entry.visible) return false;
+    if (const int* id = std::get_if<int>(&answer)) return entry.id == *id;
+    const auto* caption = std::get_if<std::u16string>(&answer);
+    return caption != nullptr && Names(*caption, entry);
+  });
+  return chosen != menu.end() ? std::optional(chosen->id) : std::nullopt;
+}
+
+}  // namespace platform

@@ -1,0 +1,46 @@
+// Pop-up menus answered by a script. A menu for which the script has no answer is dismissed.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <variant>
+
+#include "platform/memory/Faults.h"
+#include "platform/menus.h"
+
+namespace platform {
+
+class MemoryDesktop;
+
+struct ShownMenu {
+  Point at;
+  Menu entries;
+  MenuButtons buttons = MenuButtons::Left;
+};
+
+class MemoryMenus : public Menus {
+ public:
+  explicit MemoryMenus(MemoryDesktop& desktop) : desktop_(desktop) {}
+  std::optional<int> PopUp(TopWindow& owner, Point screen, const Menu& menu,
+                           MenuButtons buttons) override;
+
+  /// The next menu is answered by the entry with this caption ("&" as in the menu or left out).
+  /// Entries that are missing, disabled or hidden cannot be chosen: the menu is dismissed.
+  void Choose(std::u16string caption) { answers_.push_back(std::move(caption)); }
+  void ChooseId(int id) { answers_.push_back(id); }
+  void Dismiss() { answers_.push_back(std::monostate{}); }
+  /// Runs while a menu stands, before the answer.
+  void WhileOpen(std::function<void()> action) { whileOpen_ = std::move(action); }
+  const std::vector<ShownMenu>& Shown() const { return shown_; }
+
+ private:
+  using MenuAnswer = std::variant<std::monostate, int, std::u16string>;
+  MenuAnswer NextAnswer();
+
+  MemoryDesktop& desktop_;
+  std::deque<MenuAnswer> answers_;
+  std::function<void()> whileOpen_;
+  std::vector<ShownMenu> shown_;
+};
+
+}  // namespace platform

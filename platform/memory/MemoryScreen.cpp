@@ -1,0 +1,73 @@
+#include "platform/memory/MemoryScreen.h"
+
+#include "platform/memory/MemoryDesktop.h"
+#include "platform/memory/WindowStack.h"
+#include "platform/raster.h"
+
+namespace platform {
+namespace {
+
+Colour ClassicColour(SystemColour colour) {
+  switch (colour) {
+    case SystemColour::Window:
+    case SystemColour::HighlightText:
+    case SystemColour::ButtonHighlight:
+      return 0xFFFFFF;
+    case SystemColour::WindowText:
+    case SystemColour::ButtonText:
+    case SystemColour::TipText:
+      return 0x000000;
+    case SystemColour::Highlight:
+      return 0x6A240A;
+    case SystemColour::ButtonFace:
+      return 0xC8D0D4;
+    case SystemColour::ButtonShadow:
+    case SystemColour::GrayText:
+      return 0x808080;
+    case SystemColour::DarkShadow:
+      return 0x404040;
+    case SystemColour::Light:
+      return 0xC8D0D4;
+    case SystemColour::TipBackground:
+      return 0xE1FFFF;
+  }
+  return 0;
+}
+
+}  // namespace
+
+platform::Size MemoryScreen::Size() {
+  return desktop_.faults().Fails("Screen.Size") ? platform::Size{} : size_;
+}
+
+int MemoryScreen::Depth() { return desktop_.faults().Fails("Screen.Depth") ? 0 : depth_; }
+
+Colour MemoryScreen::SystemColourOf(SystemColour colour) {
+  const auto set = colours_.find(colour);
+  return set != colours_.end() ? set->second : ClassicColour(colour);
+}
+
+Surface MemoryScreen::Compose() {
+  Surface screen(size_);
+  FillRect(screen, screen.Area(), background_);
+  for (DesktopWindow* window : desktop_.stack().Order()) {
+    if (window->Shown()) window->Paint(screen);
+  }
+  return screen;
+}
+
+std::optional<Surface> MemoryScreen::Capture(const Rect& area) {
+  if (desktop_.faults().Fails("Screen.Capture")) return std::nullopt;
+  Surface part(area.Size());
+  const Surface screen = Compose();
+  BitBlt(part, part.Area(), screen, area.Origin(), RasterOp::SrcCopy);
+  return part;
+}
+
+std::optional<Colour> MemoryScreen::ColourAt(Point p) {
+  if (desktop_.faults().Fails("Screen.ColourAt")) return std::nullopt;
+  if (!Rect::At({0, 0}, size_).Contains(p)) return std::nullopt;
+  return ColourFromPixel(Compose().At(p) & 0xFFFFFF);
+}
+
+}  // namespace platform

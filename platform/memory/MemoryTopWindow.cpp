@@ -1,0 +1,239 @@
+#include "platform/memory/MemoryTopWindow.h"
+
+#include <algorithm>
+
+#include "platform/drawing.h"
+#include "platform/memory/MemoryDesktop.h"
+#include "platform/memory/MemoryInput.h"
+#include "platform/memory/MemoryTextDrawing.h"
+#include "platform/memory/MemoryWindows.h"
+#include "platform/raster.h"
+
+namespace platform {
+namespace {
+
+constexpr int kFrame = 3;
+constexpr int kTitle = 19;
+constexpr Colour kActiveTitle = 0x800000;
+constexpr Colour kInactiveTitle = 0x808080;
+
+// An odd-sized ellipse has its middle on a pixel, an even-sized one between two: doubled
+// coordinates keep both exact.
+bool InsideEllipse(const Rect& box, Point p) {
+  const double width = box.Width(), height = box.Height();
+  const double x = (2.0 * p.x + 1 - box.left - box.right) / width;
+  const double y = (2.0 * p.y + 1 - box.top - box.bottom) / height;
+  return box.Contains(p) && x * x + y * y <= 1.0;
+}
+
+}  // namespace
+
+MemoryTopWindow::MemoryTopWindow(MemoryDesktop& desktop, const TopWindowOptions& options,
+                                 TopWindowEvents& events)
+    : PaneOf<TopWindow>(desktop, nullptr, Rect{}, events),
+      frame_(options.frame),
+      caption_(options.caption),
+      owner_(static_cast<MemoryTopWindow*>(options.owner)),
+      inTaskBar_(options.inTaskBar),
+      focus_(this) {
+  SetTop(*this);
+  SetVisibleFlag(false);
+  SetFocusable(true);
+}
+
+MemoryTopWindow::~MemoryTopWindow() { Close(); }
+
+void MemoryTopWindow::SetVisible(bool visible) { visible ? Show(ShowMode::NoActivate) : Hide(); }
+
+void MemoryTopWindow::Show(ShowMode mode) {
+  if (Fails("TopWindow.Show")) return;
+  WindowStack& stack = Desktop().stack();
+  const bool comesUp = !OwnVisible();
+  if (comesUp || mode == ShowMode::Activate) stack.Raise(*this);
+  SetVisibleFlag(true);
+  if (comesUp) TellSeen(true);
+  if (mode == ShowMode::Activate && Shown() && Enabled()) stack.Activate(this);
+}
+
+void MemoryTopWindow::Hide() {
+  if (!Visible() || Fails("TopWindow.Hide")) return;
+  SetVisibleFlag(false);
+  Desktop().windows().ReleaseCapture(*this);
+  Desktop().stack().HandOn(*this);
+  if (Alive()) TellSeen(false);
+}
+
+void MemoryTopWindow::SetTopMost(bool topMost) {
+  if (Fails("TopWindow.SetTopMost")) return;
+  topMost_ = topMost;
+  Desktop().stack().Raise(*this);
+}
+
+bool MemoryTopWindow::SetEllipseRegion(const std::optional<Rect>& box) {
+  if (Fails("TopWindow.SetEllipseRegion")) return false;
+  ellipse_ = box;
+  return true;
+}
+
+void MemoryTopWindow::SetCaption(std::u16string_view caption) {
+  if (!Fails("TopWindow.SetCaption")) caption_ = caption;
+}
+
+void MemoryTopWindow::SetIcon(const Icon& icon) {
+  if (!Fails("TopWindow.SetIcon")) icon_ = icon;
+}
+
+Point MemoryTopWindow::ClientOffset() const {
+  return Framed() ? Point{kFrame, kFrame + kTitle} : Point{};
+}
+
+Size MemoryTopWindow::ClientArea() const {
+  const Size whole = Place().Size();
+  if (!Framed()) return whole;
+  return {std::max(0, whole.width - 2 * kFrame), std::max(0, whole.height - 2 * kFrame - kTitle)};
+}
+
+void MemoryTopWindow::SetClientSize(Size size) {
+  if (Framed()) size = {size.width + 2 * kFrame, size.height + 2 * kFrame + kTitle};
+  Move(Rect::At(Place().Origin(), size));
+}
+
+void MemoryTopWindow::StartMove() {
+  if (!Fails("TopWindow.StartMove")) Desktop().input().MoveWithPointer(*this);
+}
+
+void MemoryTopWindow::Close() {
+  if (!Alive()) return;
+  SetVisibleFlag(false);
+  // The windows it owns go with it.
+  for (DesktopWindow* other : std::vector(Desktop().stack().Order())) {
+    if (other->Owner() == this) static_cast<MemoryTopWindow*>(other)->Close();
+  }
+  MemoryDesktop& desktop = Desktop();
+  desktop.windows().ReleaseCapture(*this);
+  desktop.stack().Remove(*this);
+  CutOff();
+}
+
+bool MemoryTopWindow::Covers(Point screen) const {
+  return Place().Contains(screen) &&
+         (!ellipse_ || InsideEllipse(*ellipse_, screen - Place().Origin()));
+}
+
+Rect MemoryTopWindow::TitleBar() const {
+  if (!Framed()) return {};
+  const Rect& all = Place();
+  return {all.left + kFrame, all.top + kFrame, all.right - kFrame, all.top + kFrame + kTitle - 1};
+}
+
+Rect MemoryTopWindow::CloseBox() const {
+  if (!Framed()) return {};
+  const Rect title = TitleBar();
+  return {title.right - 18, title.top + 2, title.right - 2, title.bottom - 2};
+}
+
+void MemoryTopWindow::PaintFrame(Surface& screen) {
+  FillRect(screen, Place(), 0xC0C0C0);
+  DrawEdge(screen, Place(), Edge::Raised, {});
+  const bool active = Desktop().stack().Active() == this;
+  FillRect(screen, TitleBar(), active ? kActiveTitle : kInactiveTitle);
+  const TextFormat middle{.vertical = TextFormat::Vertical::Centre, .ellipsis = true};
+  const Rect title = TitleBar();
+  MemoryTextDrawing::Paint(screen, {title.left + 4, title.top, title.right - 20, title.bottom},
+                           caption_, {.bold = true}, 0xFFFFFF, middle);
+  FillRect(screen, CloseBox(), 0xC0C0C0);
+  DrawEdge(screen, CloseBox(), Edge::Raised, {});
+  MemoryTextDrawing::Paint(
+      screen, CloseBox().Grown(-1), u"x", {.bold = true}, 0,
+      {.horizontal = TextFormat::Horizontal::Centre, .vertical = TextFormat::Vertical::Centre});
+}
+
+void MemoryTopWindow::Paint(Surface& screen) {
+  const Surface behind = ellipse_ ? screen.Clone() : Surface();
+  if (Framed()) PaintFrame(screen);
+  const Rect client = Rect::At(ClientOnScreen(), ClientArea());
+  PaintOn(screen, client, screen.Area());
+  if (!ellipse_) return;
+  const Rect seen = Place().Intersected(screen.Area());
+  for (int y = seen.top; y < seen.bottom; ++y) {
+    for (int x = seen.left; x < seen.right; ++x) {
+      if (!Covers({x, y})) screen.At({x, y}) = behind.At({x, y});
+    }
+  }
+}
+
+void MemoryTopWindow::OnActivation(Activation activation) {
+  const bool gained = activation == Activation::Gained;
+  TopEvents().OnActivate(activation);
+  const bool active = Alive() && Desktop().stack().Active() == this;
+  if (Alive() && active == gained && focus_ != nullptr) focus_->OnFocusChange(gained);
+}
+
+bool MemoryTopWindow::PressFrame(const PointerInput& input) {
+  if (!Framed() || Rect::At(ClientOnScreen(), ClientArea()).Contains(input.state.at)) return false;
+  if (input.kind != PointerInput::Kind::Press || input.button != Button::Left) return true;
+  if (CloseBox().Contains(input.state.at)) {
+    TopEvents().OnCloseRequest();
+  } else if (TitleBar().Contains(input.state.at)) {
+    StartMove();
+  }
+  return true;
+}
+
+void MemoryTopWindow::OnPointer(const PointerInput& input) {
+  const bool press = input.kind == PointerInput::Kind::Press;
+  if (press) {
+    Desktop().stack().Raise(*this);
+    Desktop().stack().Activate(this);
+    if (!Alive() || PressFrame(input)) return;
+  }
+  MemoryNode* hit = InnermostAt(input.state.at - ClientOnScreen());
+  while (!hit->OwnEnabled() && hit != this) hit = hit->Parent();
+  Desktop().windows().Deliver(*hit, input);
+}
+
+void MemoryTopWindow::OnKey(const KeyInput& input) {
+  if (focus_ == nullptr || !Enabled()) return;
+  if (input.down) return TypeKey(input);
+  KeyEvent event{input.virtualKey, input.modifiers};
+  focus_->OnKeyInput(event, false);
+}
+
+void MemoryTopWindow::TypeKey(const KeyInput& input) {
+  KeyEvent event{input.virtualKey, input.modifiers};
+  TopEvents().OnPreviewKey(event, focus_ == this ? nullptr : focus_->Face());
+  if (event.handled || !Alive() || focus_ == nullptr) return;
+  focus_->OnKeyInput(event, true);
+  if (event.handled || !Alive() || focus_ == nullptr) return;
+  if (input.modifiers.alt && !input.modifiers.control) {
+    if (input.virtualKey == key::kF1 + 3) TopEvents().OnCloseRequest();
+    return;
+  }
+  CharEvent typed{input.unit};
+  if (typed.unit != 0) focus_->OnCharInput(typed);
+}
+
+MemoryNode* MemoryTopWindow::DropTargetAt(Point screen) {
+  MemoryNode* node = InnermostAt(screen - ClientOnScreen());
+  while (node != nullptr && !node->AcceptsDrops()) node = node->Parent();
+  return node;
+}
+
+DropEffect MemoryTopWindow::PassDrag(const DragEvent& event, bool drop) {
+  DragEvent passed = event;
+  MemoryNode* target = event.state == DragState::Leave ? nullptr : DropTargetAt(event.at);
+  if (dragTarget_ != nullptr && dragTarget_ != target) {
+    passed.state = DragState::Leave;
+    passed.data = nullptr;
+    passed.at = event.at - dragTarget_->ClientOnScreen();
+    std::exchange(dragTarget_, nullptr)->OnDragInput(passed, false);
+  }
+  if (target == nullptr || !Alive()) return DropEffect::None;
+  passed = event;
+  passed.state = dragTarget_ == target ? DragState::Over : DragState::Enter;
+  passed.at = event.at - target->ClientOnScreen();
+  dragTarget_ = drop ? nullptr : target;
+  return target->OnDragInput(passed, drop);
+}
+
+}  // namespace platform
