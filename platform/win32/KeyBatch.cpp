@@ -10,7 +10,8 @@ namespace {
 constexpr DWORD kDown = 0;
 constexpr DWORD kUp = KEYEVENTF_KEYUP;
 
-/// A second key without a meaning.
+// Keys without a meaning, that no keyboard has.
+constexpr int kMarkerKey = 0xE8;
 constexpr int kIdleKey = 0x97;
 
 constexpr int kModifierKeys[] = {VK_LSHIFT, VK_RSHIFT, VK_LCONTROL, VK_RCONTROL,
@@ -83,11 +84,18 @@ void KeyBatch::Add(const KeyStroke& stroke) {
 }
 
 bool KeyBatch::Send() {
-  Press(kMarkerKey);
+  Key(kMarkerKey, kDown);
   for (const int key : held_ | std::views::reverse) Key(key, kDown);
   if (!held_.empty()) Distract();
   const auto count = static_cast<UINT>(events_.size());
   return ::SendInput(count, events_.data(), sizeof(INPUT)) == count;
+}
+
+bool MarkerTaken() { return (::GetKeyState(kMarkerKey) & 0x8000) != 0; }
+
+void ReleaseMarker() {
+  INPUT release = Event(kMarkerKey, 0, kUp);
+  ::SendInput(1, &release, sizeof(release));
 }
 
 const KeyStroke& StrokeReader::Next() {

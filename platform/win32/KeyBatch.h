@@ -10,9 +10,6 @@
 
 namespace platform {
 
-/// A key that no keyboard has; that the target has taken it is seen by its toggle state.
-inline constexpr int kMarkerKey = 0xE8;
-
 class KeyBatch {
  public:
   /// Begins with letting go of the modifiers that the user holds.
@@ -20,7 +17,8 @@ class KeyBatch {
   /// Enough for one piece: the target works on it for some tenths of a second.
   bool Full() const { return strokes_ >= kStrokes; }
   void Add(const KeyStroke& stroke);
-  /// Ends it with the marker and takes the user's modifiers up again. False: not all was injected.
+  /// Ends it with the marker going down and takes the user's modifiers up again. False: not all was
+  /// injected.
   bool Send();
 
  private:
@@ -35,6 +33,12 @@ class KeyBatch {
   std::vector<INPUT> events_;
   int strokes_ = 0;
 };
+
+/// A key that no keyboard has. The target's own state of it, which says what the target has taken,
+/// is down once the batch before it was taken. (Not its toggle state: that of a window which is new
+/// to the keyboard can lag behind by one.)
+bool MarkerTaken();
+void ReleaseMarker();
 
 /// Strokes one by one, each as often as its count says.
 class StrokeReader {

@@ -45,8 +45,6 @@ class SharedInput {
   bool shared_;
 };
 
-bool MarkerToggled() { return (::GetKeyState(kMarkerKey) & 1) != 0; }
-
 }  // namespace
 
 void WaitForOtherForeground(DWORD milliseconds) {
@@ -55,12 +53,10 @@ void WaitForOtherForeground(DWORD milliseconds) {
 
 bool TypingTarget::Take(KeyBatch& batch) {
   const SharedInput shared(OtherForegroundThread());
-  const bool before = MarkerToggled();
-  if (!batch.Send()) return false;
-  if (!shared) return true;
-  answers_ = WaitUntil([before] { return MarkerToggled() != before; },
-                       answers_ ? kPatience : kLittlePatience);
-  return true;
+  const bool sent = batch.Send();
+  if (sent && shared) answers_ = WaitUntil(MarkerTaken, answers_ ? kPatience : kLittlePatience);
+  ReleaseMarker();
+  return sent;
 }
 
 }  // namespace platform

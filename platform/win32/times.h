@@ -12,8 +12,16 @@ inline DateTime DateTimeOf(const SYSTEMTIME& t) {
 
 inline SYSTEMTIME SystemTimeOf(const DateTime& t) {
   const auto word = [](int number) { return static_cast<WORD>(number); };
-  return {word(t.year), word(t.month),  word(t.day),    word(DayOfWeek(t) % 7),
-          word(t.hour), word(t.minute), word(t.second), word(t.millisecond)};
+  SYSTEMTIME time{};
+  time.wYear = word(t.year);
+  time.wMonth = word(t.month);
+  time.wDay = word(t.day);
+  time.wDayOfWeek = word(DayOfWeek(t) % 7);
+  time.wHour = word(t.hour);
+  time.wMinute = word(t.minute);
+  time.wSecond = word(t.second);
+  time.wMilliseconds = word(t.millisecond);
+  return time;
 }
 
 /// A file's time by the local clock, as the shell shows it: with today's daylight saving.
