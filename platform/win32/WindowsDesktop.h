@@ -10,6 +10,7 @@
 #include "platform/win32/Win32Input.h"
 #include "platform/win32/Win32Locale.h"
 #include "platform/win32/Win32Menus.h"
+#include "platform/win32/Win32Pictures.h"
 #include "platform/win32/Win32Pump.h"
 #include "platform/win32/Win32Registry.h"
 #include "platform/win32/Win32Screen.h"
@@ -32,6 +33,7 @@ class WindowsDesktop final : public Desktop {
   Input& input() override { return input_; }
   Locale& locale() override { return locale_; }
   Menus& menus() override { return menus_; }
+  Pictures& pictures() override { return pictures_; }
   Pump& pump() override { return pump_; }
   Registry& registry() override { return registry_; }
   Screen& screen() override { return screen_; }
@@ -62,6 +64,7 @@ class WindowsDesktop final : public Desktop {
   Win32Input input_;
   Win32Locale locale_;
   Win32Menus menus_;
+  Win32Pictures pictures_{files_};
   Win32Pump pump_;
   Win32Registry registry_;
   Win32Screen screen_;
