@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/font.h"
 #include "platform/input.h"
 #include "platform/memory/MemoryClipboard.h"
 
@@ -40,11 +41,15 @@ class EditText {
   bool OnChar(char16_t unit);
   virtual void Copy();
   virtual void Paste();
+  /// How a character looks where it is shown.
+  virtual Font FontAt(int /*position*/, const Font& base) const { return base; }
+  virtual Colour ColourAt(int /*position*/, Colour base) const { return base; }
 
  protected:
   /// A part of the text was replaced by `inserted` units that stand at `at` now.
   virtual void OnReplaced(int /*at*/, int /*removed*/, int /*inserted*/) {}
   MemoryClipboard& TheClipboard() { return clipboard_; }
+  bool OfOtherProgram() const { return rules_.otherProgram; }
   void PutOnClipboard(DataContent content);
 
  private:

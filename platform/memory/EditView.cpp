@@ -19,9 +19,32 @@ int StartOf(const EditText& edit, std::u16string_view line) {
   return static_cast<int>(line.data() - edit.Text().data());
 }
 
-int XOf(std::u16string_view line, int position, const Font& font) {
-  const auto count = std::clamp(position, 0, static_cast<int>(line.size()));
-  return MemoryTextDrawing::Width(line.substr(0, count), font);
+int XOf(const EditText& edit, std::u16string_view line, int position, const Font& font) {
+  const int start = StartOf(edit, line);
+  int x = 0;
+  for (int n = 0; n < position && n < static_cast<int>(line.size()); ++n) {
+    x += MemoryTextDrawing::Width(line.substr(n, 1), edit.FontAt(start + n, font));
+  }
+  return x;
+}
+
+void PaintLine(Surface& surface, const Rect& row, const EditText& edit, std::u16string_view line,
+               const EditLook& look) {
+  const int start = StartOf(edit, line);
+  int x = row.left;
+  for (int n = 0; n < static_cast<int>(line.size()); ++n) {
+    const int at = start + n;
+    const Font font = edit.FontAt(at, look.font);
+    const int right = x + MemoryTextDrawing::Width(line.substr(n, 1), font);
+    const bool selected = at >= edit.Start() && at < edit.Start() + edit.Length();
+    const Rect place{x, row.top, row.right, row.bottom};
+    if (selected) {
+      FillRect(surface, Rect{x, row.top, right, row.bottom}.Intersected(row), kSelected);
+    }
+    MemoryTextDrawing::Paint(surface, place.Intersected(row), line.substr(n, 1), font,
+                             selected ? 0xFFFFFF : edit.ColourAt(at, look.text), {});
+    x = right;
+  }
 }
 
 }  // namespace
@@ -32,23 +55,12 @@ void PaintEdit(Surface& surface, const Rect& area, const EditText& edit, const E
   int y = area.top;
   for (const std::u16string_view line : LinesOf(edit, look.font, area.Width())) {
     if (y >= clip.bottom) return;
-    const int start = StartOf(edit, line);
-    const auto x = [&](int position) { return area.left + XOf(line, position - start, look.font); };
-    const Rect row{area.left, y, area.right, y + height};
-    MemoryTextDrawing::Paint(surface, row, line, look.font, look.text, {});
-    const Rect selected =
-        Rect{x(edit.Start()), y, x(edit.Start() + edit.Length()), y + height}.Intersected(clip);
-    if (!selected.Empty()) {
-      FillRect(surface, selected, kSelected);
-      MemoryTextDrawing::Paint(
-          surface, selected,
-          line.substr(std::max(0, edit.Start() - start), static_cast<std::size_t>(edit.Length())),
-          look.font, 0xFFFFFF, {});
-    }
-    const int caret = edit.Caret() - start;
+    const Rect row = Rect{area.left, y, area.right, y + height}.Intersected(clip);
+    PaintLine(surface, row, edit, line, look);
+    const int caret = edit.Caret() - StartOf(edit, line);
     if (look.caret && caret >= 0 && caret <= static_cast<int>(line.size())) {
-      FillRect(surface, Rect{x(edit.Caret()), y, x(edit.Caret()) + 1, y + height}.Intersected(clip),
-               0);
+      const int x = area.left + XOf(edit, line, caret, look.font);
+      FillRect(surface, Rect{x, y, x + 1, y + height}.Intersected(clip), 0);
     }
     y += height;
   }
@@ -62,7 +74,7 @@ int PositionAt(const EditText& edit, Point at, int width, const Font& font) {
   const std::u16string_view line = lines[row];
   int column = 0;
   while (column < static_cast<int>(line.size()) &&
-         (XOf(line, column, font) + XOf(line, column + 1, font)) / 2 <= at.x) {
+         (XOf(edit, line, column, font) + XOf(edit, line, column + 1, font)) / 2 <= at.x) {
     ++column;
   }
   return StartOf(edit, line) + column;

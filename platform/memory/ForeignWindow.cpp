@@ -112,4 +112,8 @@ ForeignTextEditor::ForeignTextEditor(MemoryDesktop& desktop, const Rect& bounds,
                                      std::u16string_view title)
     : ForeignEditor(desktop, title, bounds), edit_(desktop.clipboard(), {.otherProgram = true}) {}
 
+ForeignRichEditor::ForeignRichEditor(MemoryDesktop& desktop, const Rect& bounds,
+                                     std::u16string_view title)
+    : ForeignEditor(desktop, title, bounds), edit_(desktop.clipboard(), {.otherProgram = true}) {}
+
 }  // namespace platform

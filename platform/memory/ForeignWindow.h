@@ -4,7 +4,7 @@
 #include <string>
 
 #include "platform/memory/DesktopWindow.h"
-#include "platform/memory/EditText.h"
+#include "platform/memory/RichEdit.h"
 
 namespace platform {
 
@@ -86,6 +86,18 @@ class ForeignTextEditor : public ForeignEditor {
 
  private:
   EditText edit_;
+};
+
+/// Keeps the formats of Rich Text that is pasted.
+class ForeignRichEditor : public ForeignEditor {
+ public:
+  ForeignRichEditor(MemoryDesktop& desktop, const Rect& bounds = {100, 80, 620, 480},
+                    std::u16string_view title = u"Textverarbeitung");
+  RichEdit& Edit() override { return edit_; }
+  std::vector<std::pair<int, int>> BoldRanges() const { return edit_.BoldRanges(); }
+
+ private:
+  RichEdit edit_;
 };
 
 }  // namespace platform

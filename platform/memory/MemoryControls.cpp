@@ -6,6 +6,7 @@
 #include "platform/memory/MemoryChoices.h"
 #include "platform/memory/MemoryDesktop.h"
 #include "platform/memory/MemoryPlainControls.h"
+#include "platform/memory/MemoryRichTextBox.h"
 #include "platform/memory/MemoryTextBox.h"
 #include "platform/memory/MemoryTree.h"
 
@@ -24,9 +25,9 @@ std::unique_ptr<TextBox> MemoryControls::NewTextBox(Pane& parent, const Rect& bo
   return New<MemoryTextBox>("Controls.NewTextBox", parent, bounds, style);
 }
 
-std::unique_ptr<RichTextBox> MemoryControls::NewRichTextBox(Pane&, const Rect&,
-                                                            const TextBoxStyle&) {
-  return nullptr;
+std::unique_ptr<RichTextBox> MemoryControls::NewRichTextBox(Pane& parent, const Rect& bounds,
+                                                            const TextBoxStyle& style) {
+  return New<MemoryRichTextBox>("Controls.NewRichTextBox", parent, bounds, style);
 }
 
 std::unique_ptr<DropDownList> MemoryControls::NewDropDownList(Pane& parent, const Rect& bounds) {
