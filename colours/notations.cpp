@@ -1,5 +1,8 @@
 #include "colours/notations.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "platform/text.h"
 
 namespace dorvalin {
@@ -17,7 +20,9 @@ void AppendHex(std::u16string& text, std::uint8_t byte) {
 
 std::u16string InHex(std::u16string_view prefix, std::uint8_t first, std::uint8_t second,
                      std::uint8_t third, std::u16string_view suffix = {}) {
-  std::u16string text(prefix);
+  std::u16string text;
+  text.reserve(prefix.size() + 6 + suffix.size());
+  text += prefix;
   AppendHex(text, first);
   AppendHex(text, second);
   AppendHex(text, third);
@@ -25,8 +30,13 @@ std::u16string InHex(std::u16string_view prefix, std::uint8_t first, std::uint8_
 }
 
 void AppendDecimal(std::u16string& text, std::int32_t number) {
-  if (number >= 10) AppendDecimal(text, number / 10);
-  text += static_cast<char16_t>(u'0' + number % 10);
+  char16_t digits[10];
+  auto* first = std::end(digits);
+  do {
+    *--first = static_cast<char16_t>(u'0' + number % 10);
+    number /= 10;
+  } while (number > 0);
+  text.append(first, std::end(digits));
 }
 
 std::u16string InDecimal(Rgb color) {
@@ -45,11 +55,11 @@ std::u16string AsTriple(Rgb color) {
 
 // --- Reading
 
-std::optional<int> HexDigit(char16_t unit) {
+/// 16 or more for what is no digit.
+std::uint32_t HexDigit(char16_t unit) {
   if (unit >= u'0' && unit <= u'9') return unit - u'0';
-  const char16_t letter = platform::LowerUnit(unit);
-  if (letter >= u'a' && letter <= u'f') return letter - u'a' + 10;
-  return std::nullopt;
+  const auto letter = static_cast<char16_t>(unit | 0x20);
+  return letter >= u'a' && letter <= u'f' ? letter - u'a' + 10u : 16u;
 }
 
 /// One to eight digits, with or without the "&" that marks a long number. Four digits are the plain
@@ -60,8 +70,8 @@ std::optional<std::int64_t> HexValue(std::u16string_view digits) {
   std::int64_t value = 0;
   for (const char16_t unit : digits) {
     const auto digit = HexDigit(unit);
-    if (!digit) return std::nullopt;
-    value = value * 16 + *digit;
+    if (digit >= 16) return std::nullopt;
+    value = value * 16 + digit;
   }
   return value;
 }
@@ -125,8 +135,8 @@ std::optional<Rgb> FromValue(std::optional<std::int64_t> value) {
 }
 
 std::optional<Rgb> FromHexNumber(std::u16string_view text, std::u16string_view prefix) {
-  const auto start = text.substr(0, prefix.size());
-  const bool isPrefixed = start.size() == prefix.size() && platform::Lower(start) == prefix;
+  const bool isPrefixed =
+      std::ranges::equal(text.substr(0, prefix.size()), prefix, {}, platform::LowerUnit);
   return isPrefixed ? FromValue(HexValue(text.substr(prefix.size()))) : std::nullopt;
 }
 
