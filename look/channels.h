@@ -26,19 +26,22 @@ struct EightChannels {
   __m128i lanes;
 };
 
-inline EightChannels DividedBy255(__m128i value) {
-  const __m128i sum = _mm_add_epi16(value, _mm_srli_epi16(value, 8));
-  return {_mm_srli_epi16(_mm_add_epi16(sum, _mm_set1_epi16(1)), 8)};
+/// (value + 1) x 257 / 65536, which is value / 255 for all that a mix can give.
+inline EightChannels DividedBy255(__m128i valueAndOne) {
+  return {_mm_mulhi_epu16(valueAndOne, _mm_set1_epi16(257))};
 }
 inline EightChannels Inverted(EightChannels weight) {
   return {_mm_xor_si128(weight.lanes, _mm_set1_epi16(255))};
 }
 inline EightChannels Mix(EightChannels a, EightChannels b, EightChannels weight) {
-  return DividedBy255(_mm_add_epi16(_mm_mullo_epi16(a.lanes, weight.lanes),
-                                    _mm_mullo_epi16(b.lanes, Inverted(weight).lanes)));
+  // The one is added to the part that is the same for all pixels when a colour is mixed in.
+  const __m128i partOfA = _mm_mullo_epi16(a.lanes, weight.lanes);
+  const __m128i partOfB = _mm_mullo_epi16(b.lanes, Inverted(weight).lanes);
+  return DividedBy255(_mm_add_epi16(_mm_add_epi16(partOfA, _mm_set1_epi16(1)), partOfB));
 }
 inline EightChannels Scaled(EightChannels weight, std::uint8_t by) {
-  return DividedBy255(_mm_mullo_epi16(weight.lanes, _mm_set1_epi16(by)));
+  return DividedBy255(
+      _mm_add_epi16(_mm_mullo_epi16(weight.lanes, _mm_set1_epi16(by)), _mm_set1_epi16(1)));
 }
 
 inline EightChannels LowPixels(__m128i four) {

@@ -1,0 +1,20 @@
+// The signs of window buttons, drawn by the program itself: the symbol font that has them is
+// missing on some machines.
+#pragma once
+
+#include <string_view>
+
+#include "platform/surface.h"
+
+namespace dorvalin {
+
+enum class WindowGlyph { Close, Left, Right, Up, Down, Sunken, Minimise, Restore, Maximise };
+
+/// The sign that a caption stands for ("\C"). False: the caption is a plain text.
+[[nodiscard]] bool GlyphOf(std::u16string_view caption, WindowGlyph& glyph);
+
+/// Draws it in the middle of the area, as large as the area's smaller side allows.
+void DrawGlyph(platform::Surface& surface, const platform::Rect& area, WindowGlyph glyph,
+               platform::Colour colour);
+
+}  // namespace dorvalin
