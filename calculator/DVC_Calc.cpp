@@ -105,10 +105,10 @@ void DVC_Calc::ListenToTexts() {
 }
 
 void DVC_Calc::AddTabStops() {
-  host_.AddTabStop(*txtTerm_);
+  host_.AddTabStop(txtTerm_.get());
   host_.AddTabStop(btnShow_->Window());
   host_.AddTabStop(btnOK_->Window());
-  host_.AddTabStop(*txtResult_);
+  host_.AddTabStop(txtResult_.get());
   for (auto& key : btnInsert_) host_.AddTabStop(key->Window());
 }
 

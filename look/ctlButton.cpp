@@ -31,7 +31,7 @@ platform::Colour Face() {
 // Every second pixel of a frame: the sign for the keyboard's place.
 void DrawDotted(platform::Surface& surface, const Rect& box, platform::Colour colour) {
   const auto dot = [&](int x, int y) {
-    if (((x + y) & 1) == 0 && surface.Area().Contains({x, y})) {
+    if (((x + y) & 1) == 0 && surface.Area().Contains(platform::Point{x, y})) {
       surface.At({x, y}) = platform::PixelFromColour(colour);
     }
   };

@@ -71,9 +71,14 @@ bool Form::Unload() {
   return true;
 }
 
-void Form::PutFirst(platform::Window& window) {
-  RemoveTabStop(window);
-  tabStops_.insert(tabStops_.begin(), &window);
+void Form::AddTabStop(platform::Window* window) {
+  if (window != nullptr) tabStops_.push_back(window);
+}
+
+void Form::PutFirst(platform::Window* window) {
+  if (window == nullptr) return;
+  std::erase(tabStops_, window);
+  tabStops_.insert(tabStops_.begin(), window);
 }
 
 void Form::AddAccessKey(char16_t letter, std::function<void()> action) {

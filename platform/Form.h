@@ -41,12 +41,11 @@ class Form : protected TopWindowEvents {
   /// False: the form refused and stays. Unloading twice does nothing.
   bool Unload();
 
-  /// The Tab key visits the windows in the order in which they were added. They must live as long
-  /// as the form, or be removed.
-  void AddTabStop(platform::Window& window) { tabStops_.push_back(&window); }
-  void RemoveTabStop(platform::Window& window) { std::erase(tabStops_, &window); }
+  /// The Tab key visits the windows in the order in which they were added. They must live as long as
+  /// the form. Null is left out.
+  void AddTabStop(platform::Window* window);
   /// Makes it the first that Tab visits and the one that has the keyboard when the form is shown.
-  void PutFirst(platform::Window& window);
+  void PutFirst(platform::Window* window);
   /// Alt and the letter (upper case) run the action.
   void AddAccessKey(char16_t letter, std::function<void()> action);
 

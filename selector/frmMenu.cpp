@@ -35,10 +35,6 @@ constexpr platform::Colour kLinkColour = 0xC00000;
 platform::Font LabelFont() { return {}; }
 platform::Font LinkFont() { return {.underline = true}; }
 
-Point ScreenPoint(const platform::Window& window, Point client) {
-  return window.ScreenBounds().Origin() + client;
-}
-
 bool OpenInBrowser(std::u16string_view address) {
   static constexpr std::array<std::u16string_view, 3> kBrowsers = {u"iexplore", u"firefox",
                                                                    u"netscape"};

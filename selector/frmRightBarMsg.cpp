@@ -59,7 +59,7 @@ void frmRightBarMsg::OnLoad() {
       std::make_unique<ctlButton>(Window(), Rect::At({right, buttonTop}, kButton), u"Nein");
   btnOK_->Click = [this] { AnswerWith(true); };
   btnCancel_->Click = [this] { AnswerWith(false); };
-  if (chkDSA_) AddTabStop(*chkDSA_);
+  AddTabStop(chkDSA_.get());
   AddTabStop(btnOK_->Window());
   AddTabStop(btnCancel_->Window());
   // The answer that keeps the setting has the keyboard.
