@@ -19,10 +19,10 @@ struct Skin {
 SkinCell CellOf(const ButtonState& state) {
   const bool ready = state.isDefault && state.enabled;
   if (state.pressed) return {30, kSunken};
-  if (state.heldDown) return {150, kSunken};
+  if (state.keptDown) return {150, kSunken};
   if (ready && state.hover) return {120, kRaised};
   if (ready) return {60, kRaised};
-  if (state.enabled && state.hover) return {0, kRaised};
+  if (state.hover) return {0, kRaised};
   return {90, kRaised};
 }
 

@@ -9,7 +9,7 @@ namespace dorvalin {
 
 struct ButtonState {
   bool pressed = false;
-  bool heldDown = false;  ///< kept down from outside, while a menu is up
+  bool keptDown = false;  ///< from outside, while a menu is open
   bool isDefault = false;
   bool enabled = true;
   bool hover = false;

@@ -17,85 +17,99 @@ struct GlyphCaption {
   WindowGlyph glyph;
 };
 
+// Beside each the character under which the symbol font "Marlett" has the sign.
 constexpr GlyphCaption kCaptions[] = {
-    {u"\\C", WindowGlyph::Close},    {u"\\L", WindowGlyph::Left},
-    {u"\\R", WindowGlyph::Right},    {u"\\T", WindowGlyph::Up},
-    {u"\\B", WindowGlyph::Down},     {u"\\S", WindowGlyph::Sunken},
-    {u"\\M", WindowGlyph::Minimise}, {u"\\W", WindowGlyph::Restore},
-    {u"\\X", WindowGlyph::Maximise},
+    {u"\\C", WindowGlyph::Close},     // r
+    {u"\\L", WindowGlyph::Left},      // 3
+    {u"\\R", WindowGlyph::Right},     // 4
+    {u"\\T", WindowGlyph::Up},        // 5
+    {u"\\B", WindowGlyph::Down},      // 6
+    {u"\\S", WindowGlyph::Square},    // g
+    {u"\\M", WindowGlyph::Minimise},  // 0
+    {u"\\W", WindowGlyph::Restore},   // 2
+    {u"\\X", WindowGlyph::Maximise},  // 1
 };
 
+/// How thick the strokes of a sign of that size are.
+int StrokeOf(int side) { return std::max((side + 3) / 6, 1); }
+
+// Its strokes are wider than high, so the sign is one stroke wider than the box.
 void DrawCross(Surface& surface, const Rect& box, Colour colour) {
-  const int length = box.Width();
-  for (int i = 0; i < length; ++i) {
-    FillRect(surface, Rect::At({box.left + i, box.top + i}, {2, 1}), colour);
-    FillRect(surface, Rect::At({box.left + i, box.bottom - 1 - i}, {2, 1}), colour);
+  const int stroke = StrokeOf(box.Width());
+  for (int i = 0; i < box.Height(); ++i) {
+    const int mirrored = box.Height() - 1 - i;
+    FillRect(surface, Rect::At({box.left + i, box.top + i}, {stroke, 1}), colour);
+    FillRect(surface, Rect::At({box.left + mirrored, box.top + i}, {stroke, 1}), colour);
   }
 }
 
-// A triangle of rows or columns that shrink by one pixel at both ends.
-void DrawArrow(Surface& surface, const Rect& box, WindowGlyph glyph, Colour colour) {
+// Four rows or columns for a box of seven, each shorter by one pixel at both ends.
+void DrawArrow(Surface& surface, const Rect& box, Point step, Colour colour) {
   const int depth = (box.Width() + 1) / 2;
   const Point middle = box.Middle();
   for (int i = 0; i < depth; ++i) {
     const int half = depth - 1 - i;
-    const int across = 2 * half + 1;
-    const int along =
-        glyph == WindowGlyph::Right || glyph == WindowGlyph::Down ? i - depth / 2 : depth / 2 - i;
-    const bool upright = glyph == WindowGlyph::Up || glyph == WindowGlyph::Down;
-    const Rect row = upright ? Rect::At({middle.x - half, middle.y + along}, {across, 1})
-                             : Rect::At({middle.x + along, middle.y - half}, {1, across});
-    FillRect(surface, row, colour);
+    const int along = i - depth / 2;
+    const Point at{middle.x + step.x * along, middle.y + step.y * along};
+    FillRect(surface,
+             {at.x - (step.y ? half : 0), at.y - (step.x ? half : 0),
+              at.x + (step.y ? half : 0) + 1, at.y + (step.x ? half : 0) + 1},
+             colour);
   }
 }
 
-void DrawSheet(Surface& surface, const Rect& box, Colour colour) {
+// A window: a frame with a heavier title bar.
+void DrawWindow(Surface& surface, const Rect& box, int stroke, Colour colour) {
   FrameRect(surface, box, colour);
-  FillRect(surface, Rect::At(box.Origin(), {box.Width(), 2}), colour);
+  FillRect(surface, Rect::At(box.Origin(), {box.Width(), stroke}), colour);
 }
 
-// Two sheets behind each other; the one in front covers the other's corner.
+// Two windows behind each other; of the one behind only what the one in front leaves free.
 void DrawRestore(Surface& surface, const Rect& box, Colour colour) {
-  const int side = box.Width() * 2 / 3;
-  const Rect back = Rect::At({box.right - side, box.top}, {side, side});
-  const Rect front = Rect::At({box.left, box.bottom - side}, {side, side});
-  DrawSheet(surface, front, colour);
-  FillRect(surface, {back.left, back.top, back.right, back.top + 2}, colour);
-  FillRect(surface, {back.right - 1, back.top, back.right, back.bottom}, colour);
-  FillRect(surface, {back.left, back.top, back.left + 1, front.top}, colour);
-  FillRect(surface, {front.right, back.bottom - 1, back.right, back.bottom}, colour);
+  const int stroke = StrokeOf(box.Width());
+  const int side = box.Width() - 2;
+  const Rect front{box.left, box.bottom - side + 1, box.left + side, box.bottom};
+  const Rect behind{box.right - side, box.top, box.right, box.top + side - 1};
+  FillRect(surface, {behind.left, behind.top, behind.right, behind.top + stroke}, colour);
+  FillRect(surface, {behind.left, behind.top, behind.left + 1, front.top}, colour);
+  FillRect(surface, {behind.right - 1, behind.top, behind.right, behind.bottom}, colour);
+  FillRect(surface, {front.right, behind.bottom - 1, behind.right, behind.bottom}, colour);
+  DrawWindow(surface, front, stroke, colour);
 }
 
 }  // namespace
 
-bool GlyphOf(std::u16string_view caption, WindowGlyph& glyph) {
-  const auto* at = std::find_if(std::begin(kCaptions), std::end(kCaptions),
-                                [&](const GlyphCaption& c) { return c.caption == caption; });
-  if (at == std::end(kCaptions)) return false;
-  glyph = at->glyph;
-  return true;
+std::optional<WindowGlyph> GlyphOf(std::u16string_view caption) {
+  for (const GlyphCaption& known : kCaptions)
+    if (known.caption == caption) return known.glyph;
+  return std::nullopt;
 }
 
 void DrawGlyph(Surface& surface, const Rect& area, WindowGlyph glyph, Colour colour) {
-  const int side = std::max(std::min(area.Width(), area.Height()) * 7 / 17, 3);
+  // Odd, so that arrows have a tip: 7 pixels in a button of 17.
+  const int side = (std::max(std::min(area.Width(), area.Height()), 5) * 7 / 17) | 1;
   const Point middle = area.Middle();
   const Rect box = Rect::At({middle.x - side / 2, middle.y - side / 2}, {side, side});
   switch (glyph) {
     case WindowGlyph::Close:
-      return DrawCross(surface, {box.left, box.top, box.right, box.bottom}, colour);
+      return DrawCross(surface, box, colour);
     case WindowGlyph::Left:
+      return DrawArrow(surface, box, {-1, 0}, colour);
     case WindowGlyph::Right:
+      return DrawArrow(surface, box, {1, 0}, colour);
     case WindowGlyph::Up:
+      return DrawArrow(surface, box, {0, -1}, colour);
     case WindowGlyph::Down:
-      return DrawArrow(surface, box, glyph, colour);
-    case WindowGlyph::Sunken:
-      return DrawCircle(surface, middle, side / 4, colour);
+      return DrawArrow(surface, box, {0, 1}, colour);
+    case WindowGlyph::Square:
+      return FillRect(surface, box.Grown(-1), colour);
     case WindowGlyph::Minimise:
-      return FillRect(surface, {box.left, box.bottom - 2, box.right, box.bottom}, colour);
+      return FillRect(surface, {box.left, box.bottom - StrokeOf(side), box.right, box.bottom},
+                      colour);
     case WindowGlyph::Restore:
-      return DrawRestore(surface, box, colour);
+      return DrawRestore(surface, box.Grown(1), colour);
     case WindowGlyph::Maximise:
-      return DrawSheet(surface, box, colour);
+      return DrawWindow(surface, box.Grown(1), StrokeOf(side), colour);
   }
 }
 

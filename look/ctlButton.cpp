@@ -6,6 +6,7 @@
 #include "platform/desktop.h"
 #include "platform/drawing.h"
 #include "platform/screen.h"
+#include "platform/text.h"
 #include "platform/textdrawing.h"
 
 namespace dorvalin {
@@ -26,6 +27,13 @@ constexpr int kFocusInset = 3;
 
 platform::Colour Face() {
   return TheDesktop().screen().SystemColourOf(platform::SystemColour::ButtonFace);
+}
+
+// The character behind the first "&", 0 for none. Before a blank the sign is one of the text's own.
+char16_t AccessKeyOf(std::u16string_view caption) {
+  const auto at = caption.find(u'&');
+  const char16_t key = at + 1 < caption.size() && at != caption.npos ? caption[at + 1] : 0;
+  return key == u' ' || key == u'&' ? char16_t{0} : platform::UpperUnit(key);
 }
 
 // Every second pixel of a frame: the sign for the keyboard's place.
@@ -94,6 +102,15 @@ void ctlButton::SetToolTip(std::u16string_view text) {
   if (pane_) pane_->SetToolTip(text);
 }
 
+void ctlButton::JoinForm(platform::Form& form) {
+  form.AddTabStop(pane_.get());
+  const char16_t key = AccessKeyOf(caption_);
+  if (key == 0) return;
+  form.AddAccessKey(key, [this] {
+    if (enabled_) Raise(Click);
+  });
+}
+
 void ctlButton::ResetFont() {
   font_.face = u"MS Sans Serif";
   Draw();
@@ -111,7 +128,11 @@ void ctlButton::DrawFace() {
   FillRect(canvas, canvas.Area(), Face());
   if (NoStyle) return;
   DrawSkin(canvas, canvas.Area(),
-           {.pressed = Pressed, .isDefault = LookDefault, .enabled = enabled_, .hover = Hover_});
+           {.pressed = Pressed,
+            .keptDown = KeptDown,
+            .isDefault = LookDefault,
+            .enabled = enabled_,
+            .hover = Hover_});
   if (HasFocus_) DrawDotted(canvas, canvas.Area().Grown(-kFocusInset), kDisabledText);
 }
 
@@ -121,8 +142,7 @@ void ctlButton::DrawCaption() {
   auto& canvas = pane_->Canvas();
   Rect area = canvas.Area();
   if (Pressed) area = area.Moved({1, 1});
-  WindowGlyph glyph;
-  if (GlyphOf(caption_, glyph)) return DrawGlyph(canvas, area, glyph, TextColour());
+  if (const auto glyph = GlyphOf(caption_)) return DrawGlyph(canvas, area, *glyph, TextColour());
   auto& text = TheDesktop().text();
   platform::Font font = font_;
   if (caption_ == u"...") font.face = u"System";
@@ -136,7 +156,7 @@ void ctlButton::DrawCaption() {
   text.Draw(canvas, area, caption_, font, TextColour(),
             {.horizontal = platform::TextFormat::Horizontal::Centre,
              .vertical = platform::TextFormat::Vertical::Centre,
-             .accessKeys = caption_.find(u"& ") == std::u16string::npos});
+             .accessKeys = AccessKeyOf(caption_) != 0});
 }
 
 void ctlButton::Release() {
@@ -192,9 +212,9 @@ void ctlButton::OnMouseDown(Button button, const MouseEvent& event) {
 }
 
 void ctlButton::OnMouseUp(Button button, const MouseEvent& event) {
-  if (button != Button::Left || !Held_) return;
-  Held_ = false;
-  SetPressed(false);
+  // A press that began elsewhere, on a window that made room for this one, clicks here as well.
+  if (button != Button::Left) return;
+  Release();
   if (Inside(event.at)) Raise(Click);
 }
 
@@ -202,7 +222,7 @@ void ctlButton::OnKeyDown(platform::KeyEvent& event) {
   if (event.virtualKey == platform::key::kEnter) {
     event.handled = true;
     Raise(Click);
-  } else if (event.virtualKey == platform::key::kSpace && !Pressed) {
+  } else if (event.virtualKey == platform::key::kSpace) {
     event.handled = true;
     SetPressed(true);
     Raise(Down);

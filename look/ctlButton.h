@@ -2,7 +2,7 @@
 // the signs of window buttons.
 //
 //   move in -> Hover | left down: Held, Pressed, Down | dragged out: not Pressed | up inside: Click
-//   Space down: Pressed, Down | Space up: Click | Enter: Click | access key: Click
+//   Space down: Pressed, Down | Space up: Click | Enter, access key: Click
 #pragma once
 
 #include <functional>
@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Form.h"
 #include "platform/font.h"
 #include "platform/icon.h"
 #include "platform/pump.h"
@@ -35,13 +36,22 @@ class ctlButton final : private platform::PaneEvents {
   bool NoStyle = false;
   /// Drawn as pressed, as a toggle that is on; Draw shows a change.
   bool Pressed = false;
+  /// Drawn as the opener of a pop-up that is open; Draw shows a change.
+  bool KeptDown = false;
 
-  [[nodiscard]] const std::u16string& Caption() const { return caption_; }
-  void SetCaption(std::u16string_view caption);
+  [[nodiscard]] const platform::Icon& Icon() const { return icon_; }
+  /// Stands before the caption; none at first.
   void SetIcon(const platform::Icon& icon);
-  void SetForeColor(platform::Colour colour);
   [[nodiscard]] bool Enabled() const { return enabled_; }
   void SetEnabled(bool enabled);
+  [[nodiscard]] platform::Colour ForeColor() const { return foreColour_; }
+  /// The caption's colour while the button is enabled.
+  void SetForeColor(platform::Colour colour);
+  [[nodiscard]] const std::u16string& Caption() const { return caption_; }
+  /// A text, "&" before its access key, or a sign of WindowGlyphs.h.
+  void SetCaption(std::u16string_view caption);
+  /// What it shows now. Only where it has a window.
+  [[nodiscard]] const platform::Surface& hdc() const { return pane_->Canvas(); }
   void SetVisible(bool visible);
   void SetBounds(const platform::Rect& bounds);
   void SetToolTip(std::u16string_view text);
@@ -54,7 +64,9 @@ class ctlButton final : private platform::PaneEvents {
   /// A short confirmation in green.
   void FlashGreen();
 
-  /// For the order of the Tab key; null where the desktop gave it no window.
+  /// Takes part in the form's Tab order, and its access key raises Click.
+  void JoinForm(platform::Form& form);
+  /// Null where the desktop gave it no window.
   [[nodiscard]] platform::Window* Window() { return pane_.get(); }
 
  private:
