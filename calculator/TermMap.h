@@ -1,6 +1,7 @@
 // Where a term may be cut, found once for all its ranges.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <memory_resource>
 #include <string_view>
@@ -27,40 +28,47 @@ class TermMap {
   /// 1 for + and -, 2 for * / × ÷ §, 3 for ^, 0 for anything else.
   [[nodiscard]] static int LevelOf(char16_t unit);
 
-  [[nodiscard]] bool Balances(Range range) const;
+  [[nodiscard]] bool Balances(Range range) const {
+    return At(range.begin).depth == At(range.end).depth;
+  }
 
   /// The last operator of the level outside of brackets that is no sign, -1 if there is none. An
   /// operator at the very beginning cuts nothing and is not told.
-  [[nodiscard]] int LastCut(Range range, int level) const;
+  [[nodiscard]] int LastCut(Range range, int level) const {
+    const int cut = At(range.end).lastCut[static_cast<std::size_t>(level - 1)];
+    return cut > range.begin ? cut : -1;
+  }
 
   /// The first character that cannot belong to numbers and level 2 operators, `range.end` for none.
-  [[nodiscard]] int FirstWord(Range range) const;
+  [[nodiscard]] int FirstWord(Range range) const {
+    return std::min(At(range.begin).nextWord, range.end);
+  }
 
   /// The first bracket that opens outside of other brackets, `range.end` for none.
-  [[nodiscard]] int FirstGroup(Range range) const;
+  [[nodiscard]] int FirstGroup(Range range) const {
+    return std::min(At(range.begin).nextGroup, range.end);
+  }
 
   /// Behind the bracket that closes the group opened at `open`, in a range that balances.
-  [[nodiscard]] int GroupEnd(int open) const;
+  [[nodiscard]] int GroupEnd(int open) const { return At(open).nextAtDepth; }
+
+  /// Is there no operator, bracket or postfix in the range, and no number in front of a word?
+  [[nodiscard]] bool IsLeaf(Range range) const {
+    const Place& first = At(range.begin);
+    return first.nextMark >= range.end &&
+           (first.nextWord == range.begin || first.nextWord >= range.end);
+  }
 
  private:
-  /// What is known of the place in front of a character, or behind the last one.
+  /// What is known of the place in front of a character, or behind the last one. The next of
+  /// something is beyond the text if there is none.
   struct Place {
     int depth = 0;                                 ///< brackets open in front of it
     std::array<int, kLevels> lastCut{-1, -1, -1};  ///< the nearest at the same depth before it
     int nextWord = 0;
+    int nextMark = 0;  ///< operator, bracket or postfix
     int nextGroup = 0;
-    int nextAtDepth = 0;  ///< the next place of the same depth, one beyond the last for none
-  };
-
-  /// One number for each depth that the text can reach.
-  class ByDepth {
-   public:
-    ByDepth(int length, int none, std::pmr::memory_resource* memory);
-    int& operator[](int depth) { return entries_[static_cast<std::size_t>(depth + length_)]; }
-
-   private:
-    int length_;
-    std::pmr::vector<int> entries_;
+    int nextAtDepth = 0;  ///< the next place of the same depth
   };
 
   Place& At(int place) { return places_[static_cast<std::size_t>(place)]; }
@@ -68,7 +76,7 @@ class TermMap {
   int Length() const { return static_cast<int>(places_.size()) - 1; }
 
   void MarkCuts(std::u16string_view text, std::pmr::memory_resource* memory);
-  void MarkGroups(std::u16string_view text, std::pmr::memory_resource* memory);
+  void MarkNext(std::u16string_view text, std::pmr::memory_resource* memory);
 
   std::pmr::vector<Place> places_;
 };

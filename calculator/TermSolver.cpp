@@ -11,23 +11,30 @@ TermSolver::TermSolver(std::u16string_view text, const Words& words)
 
 Solved TermSolver::Solve(Range range) {
   const std::size_t base = frames_.size();
-  Step step = Ask(range);
-  while (step.asks || frames_.size() > base)
-    step = step.asks ? Open(step.range) : Resume(step.solved);
-  return step.solved;
+  Next next = Open(range);
+  while (next == Next::Part || frames_.size() > base)
+    next = next == Next::Part ? Open(asked_) : Settle(Continue(frames_.back(), Solved(solved_)));
+  return solved_;
 }
 
-TermSolver::Step TermSolver::Ask(Frame& frame, Part part, Range range) {
+TermSolver::Next TermSolver::Ask(Frame& frame, Part part, Range range) {
   frame.awaited = part;
-  return {true, range, {}};
+  asked_ = range;
+  return Next::Part;
 }
 
-TermSolver::Step TermSolver::Open(Range untrimmed) {
+TermSolver::Next TermSolver::Answer(const Solved& solved) {
+  solved_ = solved;
+  return Next::Done;
+}
+
+TermSolver::Next TermSolver::Open(Range untrimmed) {
   const Range range = Trimmed(untrimmed);
   if (range.Empty()) return Answer(Failure(kNothingToSolve));
+  if (map_.IsLeaf(range)) return Answer(SolveWord(Text(range), words_));
   // However it is cut, its leftmost part does not balance either.
   if (!map_.Balances(range)) return Answer(Failure(kBracketsDoNotBalance));
-  if (remembers_) {
+  if (Remembers()) {
     const auto found = remembered_.find(KeyOf(range));
     if (found != remembered_.end()) return Answer(found->second);
   }
@@ -35,37 +42,33 @@ TermSolver::Step TermSolver::Open(Range untrimmed) {
   return Settle(Begin(frames_.back()));
 }
 
-TermSolver::Step TermSolver::Resume(const Solved& part) {
-  return Settle(Continue(frames_.back(), part));
-}
-
 // A range that is solved leaves the stack.
-TermSolver::Step TermSolver::Settle(const Step& step) {
-  if (step.asks) return step;
-  if (remembers_) remembered_.emplace(KeyOf(frames_.back().range), step.solved);
+TermSolver::Next TermSolver::Settle(Next next) {
+  if (next == Next::Part) return next;
+  if (Remembers()) remembered_.emplace(KeyOf(frames_.back().range), solved_);
   frames_.pop_back();
-  return step;
+  return next;
 }
 
 // The order of what follows is what users know as precedence.
 
-TermSolver::Step TermSolver::Begin(Frame& frame) {
-  Step step;
-  if (Splits(frame, 1, step)) return step;
+TermSolver::Next TermSolver::Begin(Frame& frame) {
+  Next next;
+  if (Splits(frame, 1, next)) return next;
   return BeginFactor(frame);
 }
 
-bool TermSolver::Splits(Frame& frame, int level, Step& step) const {
+bool TermSolver::Splits(Frame& frame, int level, Next& next) {
   const Split split = FindSplit(frame.range, level);
   if (split.kind == Split::Kind::None) return false;
   frame.at = split.at;
   if (split.kind == Split::Kind::Between) {
-    step = Ask(frame, Part::LeftOperand, {frame.range.begin, split.at});
+    next = Ask(frame, Part::LeftOperand, {frame.range.begin, split.at});
   } else if (level == 1) {
     frame.left = 0;
-    step = AskRightOperand(frame);
+    next = AskRightOperand(frame);
   } else {
-    step = Answer(Failure(kOperandMissing));
+    next = Answer(Failure(kOperandMissing));
   }
   return true;
 }
@@ -77,44 +80,48 @@ TermSolver::Split TermSolver::FindSplit(Range range, int level) const {
   return {leading ? Split::Kind::Leading : Split::Kind::None, range.begin};
 }
 
-TermSolver::Step TermSolver::AskRightOperand(Frame& frame) const {
+TermSolver::Next TermSolver::AskRightOperand(Frame& frame) {
   if (frame.at + 1 == frame.range.end) return Answer(Failure(kOperandMissing));
   return Ask(frame, Part::RightOperand, {frame.at + 1, frame.range.end});
 }
 
 // Only the first character that is not of plain arithmetic is tried: "2 pi" is a product there, and
 // "2e3" is none, because "e3" is nothing.
-TermSolver::Step TermSolver::BeginFactor(Frame& frame) {
+TermSolver::Next TermSolver::BeginFactor(Frame& frame) {
   frame.at = map_.FirstWord(frame.range);
   if (frame.at == frame.range.begin || frame.at == frame.range.end) return BeginTightParts(frame);
   return Ask(frame, Part::Factor, {frame.range.begin, frame.at});
 }
 
-TermSolver::Step TermSolver::BeginTightParts(Frame& frame) {
-  Step step;
-  if (Splits(frame, 2, step) || Splits(frame, 3, step)) return step;
+TermSolver::Next TermSolver::BeginTightParts(Frame& frame) {
+  Next next;
+  if (Splits(frame, 2, next) || Splits(frame, 3, next)) return next;
   const int last = frame.range.end - 1;
   if (IsPostfix(Unit(last))) return Ask(frame, Part::PostfixOperand, {frame.range.begin, last});
   return BeginGroup(frame);
 }
 
-TermSolver::Step TermSolver::BeginGroup(Frame& frame) const {
+TermSolver::Next TermSolver::BeginGroup(Frame& frame) {
   const int open = map_.FirstGroup(frame.range);
   if (open == frame.range.end) return Answer(SolveWord(Text(frame.range), words_));
-  if (open > frame.range.begin) {
-    const Range before{frame.range.begin, open};
-    frame.function = FindFunction(platform::Lower(Text(Trimmed(before))));
-    if (!frame.function) {
-      frame.at = open;
-      return Ask(frame, Part::NoFunction, before);
-    }
-    if (!frame.function->apply) return Answer(Failure(kNothingToSolve));
-  }
+  if (open > frame.range.begin) return BeginCall(frame, open);
   frame.at = map_.GroupEnd(open);
   return Ask(frame, Part::Group, {open + 1, frame.at - 1});
 }
 
-TermSolver::Step TermSolver::Continue(Frame& frame, const Solved& part) {
+TermSolver::Next TermSolver::BeginCall(Frame& frame, int open) {
+  const Range name{frame.range.begin, open};
+  frame.function = FindFunction(platform::Lower(Text(Trimmed(name))));
+  if (!frame.function) {
+    frame.at = open;
+    return Ask(frame, Part::NoFunction, name);
+  }
+  if (!frame.function->apply) return Answer(Failure(kNothingToSolve));
+  frame.at = map_.GroupEnd(open);
+  return Ask(frame, Part::Group, {open + 1, frame.at - 1});
+}
+
+TermSolver::Next TermSolver::Continue(Frame& frame, const Solved& part) {
   if (frame.awaited == Part::Factor || frame.awaited == Part::SilentProduct)
     return AfterFactor(frame, part);
   if (part.Failed()) return Answer(part);
@@ -139,9 +146,9 @@ TermSolver::Step TermSolver::Continue(Frame& frame, const Solved& part) {
 }
 
 // A failure here is none yet: the range is cut in another way.
-TermSolver::Step TermSolver::AfterFactor(Frame& frame, const Solved& part) {
+TermSolver::Next TermSolver::AfterFactor(Frame& frame, const Solved& part) {
   if (part.Failed()) {
-    remembers_ = true;
+    ++failures_;
     return BeginTightParts(frame);
   }
   if (frame.awaited == Part::SilentProduct)
@@ -150,7 +157,7 @@ TermSolver::Step TermSolver::AfterFactor(Frame& frame, const Solved& part) {
   return Ask(frame, Part::SilentProduct, {frame.at, frame.range.end});
 }
 
-TermSolver::Step TermSolver::AfterGroup(Frame& frame, const Solved& part) const {
+TermSolver::Next TermSolver::AfterGroup(Frame& frame, const Solved& part) {
   const Solved group = frame.function ? CallFunction(*frame.function, part, frame.left) : part;
   if (group.Failed()) return Answer(group);
   frame.left = group.value.value_or(frame.left);

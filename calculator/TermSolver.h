@@ -56,35 +56,31 @@ class TermSolver {
     double left = 0;
   };
 
-  /// Either the range to be solved next, or the solution of the current one.
-  struct Step {
-    bool asks = false;
-    Range range;
-    Solved solved;
-  };
-  static Step Ask(Range range) { return {true, range, {}}; }
-  static Step Answer(const Solved& solved) { return {false, {}, solved}; }
-  static Step Ask(Frame& frame, Part part, Range range);
+  /// Either `asked_` is to be solved next, or `solved_` is what the current range gives.
+  enum class Next : std::uint8_t { Part, Done };
+  Next Ask(Frame& frame, Part part, Range range);
+  Next Answer(const Solved& solved);
 
-  Step Open(Range range);
-  Step Resume(const Solved& part);
-  Step Settle(const Step& step);
+  Next Open(Range untrimmed);
+  Next Settle(Next next);
 
-  Step Begin(Frame& frame);
-  bool Splits(Frame& frame, int level, Step& step) const;
-  Step AskRightOperand(Frame& frame) const;
-  Step BeginFactor(Frame& frame);
-  Step BeginTightParts(Frame& frame);
-  Step BeginGroup(Frame& frame) const;
+  Next Begin(Frame& frame);
+  bool Splits(Frame& frame, int level, Next& next);
+  Next AskRightOperand(Frame& frame);
+  Next BeginFactor(Frame& frame);
+  Next BeginTightParts(Frame& frame);
+  Next BeginGroup(Frame& frame);
+  Next BeginCall(Frame& frame, int open);
 
-  Step Continue(Frame& frame, const Solved& part);
-  Step AfterFactor(Frame& frame, const Solved& part);
-  Step AfterGroup(Frame& frame, const Solved& part) const;
+  Next Continue(Frame& frame, const Solved& part);
+  Next AfterFactor(Frame& frame, const Solved& part);
+  Next AfterGroup(Frame& frame, const Solved& part);
 
   char16_t Unit(int at) const { return text_[static_cast<std::size_t>(at)]; }
   std::u16string_view Text(Range range) const;
   Range Trimmed(Range range) const;
 
+  bool Remembers() const { return failures_ > kFailuresToRepeat; }
   static std::uint64_t KeyOf(Range range);
 
   std::u16string_view text_;
@@ -94,9 +90,12 @@ class TermSolver {
   std::pmr::monotonic_buffer_resource memory_{room_.data(), room_.size()};
   TermMap map_;
   std::pmr::vector<Frame> frames_{&memory_};
+  Range asked_;
+  Solved solved_;
   // A silent product that fails has its range solved again in another way, and so have the ranges
-  // in it: from the first such failure on, what a range gave is remembered.
-  bool remembers_ = false;
+  // in it. A few such repetitions cost less than remembering what each range gave.
+  static constexpr int kFailuresToRepeat = 4;
+  int failures_ = 0;
   std::pmr::unordered_map<std::uint64_t, Solved> remembered_{&memory_};
 };
 

@@ -46,10 +46,6 @@ Solved ApplyOperator(char16_t op, double left, double right) {
   }
 }
 
-bool IsPostfix(char16_t unit) {
-  return std::u16string_view(u"²³!°%").find(unit) != std::u16string_view::npos;
-}
-
 Solved ApplyPostfix(char16_t postfix, double operand) {
   switch (postfix) {
     case u'²':

@@ -15,7 +15,9 @@ inline constexpr double kPi = std::bit_cast<double>(std::uint64_t{0x400921FB5444
 
 [[nodiscard]] Solved ApplyOperator(char16_t op, double left, double right);
 
-[[nodiscard]] bool IsPostfix(char16_t unit);
+[[nodiscard]] constexpr bool IsPostfix(char16_t unit) {
+  return unit == u'²' || unit == u'³' || unit == u'!' || unit == u'°' || unit == u'%';
+}
 [[nodiscard]] Solved ApplyPostfix(char16_t postfix, double operand);
 
 /// To the nearest 32-bit integer, halves to the even one; none beyond their range.

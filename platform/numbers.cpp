@@ -17,7 +17,7 @@ bool IsSign(char16_t unit) { return unit == u'+' || unit == u'-'; }
 class Spelling {
  public:
   Spelling(std::u16string_view text, const NumberFormat& format)
-      : rest_(Trim(text)), format_(format) {}
+      : rest_(Trim(text)), format_(format), plain_(rest_.size(), '\0') {}
 
   /// False if the text is no number; `Plain` is then of no use.
   bool Read() {
@@ -27,21 +27,23 @@ class Spelling {
     return (whole || fraction) && TakeExponent() && rest_.empty();
   }
 
-  const std::string& Plain() const { return plain_; }
+  std::string_view Plain() const { return std::string_view(plain_).substr(0, length_); }
 
  private:
   bool Sees(char16_t unit) const { return !rest_.empty() && rest_.front() == unit; }
   bool SeesDigit() const { return !rest_.empty() && IsDigit(rest_.front()); }
 
+  void Put(char unit) { plain_[length_++] = unit; }
+
   void Take() {
-    plain_.push_back(static_cast<char>(rest_.front()));
+    Put(static_cast<char>(rest_.front()));
     rest_.remove_prefix(1);
   }
 
   // std::from_chars knows no leading plus.
   void TakeSign() {
     if (Sees(u'-')) Take();
-    if (Sees(u'+') && plain_.empty()) rest_.remove_prefix(1);
+    if (Sees(u'+') && length_ == 0) rest_.remove_prefix(1);
   }
 
   bool TakeDigits() {
@@ -63,7 +65,7 @@ class Spelling {
   bool TakeFraction() {
     if (!Sees(format_.decimal)) return false;
     rest_.remove_prefix(1);
-    plain_.push_back('.');
+    Put('.');
     return TakeDigits();
   }
 
@@ -71,7 +73,7 @@ class Spelling {
     if (!Sees(u'E') && !Sees(u'e')) return true;
     Take();
     if (!rest_.empty() && IsSign(rest_.front())) {
-      if (Sees(u'-')) plain_.push_back('-');
+      if (Sees(u'-')) Put('-');
       rest_.remove_prefix(1);
     }
     return TakeDigits();
@@ -79,7 +81,8 @@ class Spelling {
 
   std::u16string_view rest_;
   const NumberFormat& format_;
-  std::string plain_;
+  std::string plain_;  // never longer than the text
+  std::size_t length_ = 0;
 };
 
 std::int64_t ExponentOf(std::string_view digits) {
@@ -105,7 +108,7 @@ bool IsTiny(std::string_view plain) {
 std::optional<double> ParseNumber(std::u16string_view text, const NumberFormat& format) {
   Spelling spelling(text, format);
   if (!spelling.Read()) return std::nullopt;
-  const std::string& plain = spelling.Plain();
+  const std::string_view plain = spelling.Plain();
   double value = 0;
   const auto read = std::from_chars(plain.data(), plain.data() + plain.size(), value);
   if (read.ec == std::errc()) return value;
