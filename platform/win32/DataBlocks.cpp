@@ -3,15 +3,17 @@
 #include <shlobj.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstddef>
-#include <cstring>
+#include <cstdint>
+#include <cstdlib>
 
 #include "platform/win32/DibMemory.h"
 #include "platform/win32/wide.h"
 
 namespace platform {
 namespace {
+
+constexpr DWORD kMostColours = 256;
 
 std::string_view AsBytes(std::u16string_view text) {
   return {reinterpret_cast<const char*>(text.data()), text.size() * sizeof(char16_t)};
@@ -56,15 +58,15 @@ bool KnownDepth(WORD bits) {
 }
 
 /// Bytes that the pixels must have; none for forms that a program can't expect to be understood.
-std::optional<std::size_t> PixelBytes(const BITMAPINFOHEADER& header) {
-  constexpr LONG kLargestSide = 0x7FFF;
-  const LONG height = header.biHeight < 0 ? -header.biHeight : header.biHeight;
+std::optional<std::uint64_t> PixelBytes(const BITMAPINFOHEADER& header) {
+  constexpr std::int64_t kLargestSide = 0x7FFF;
+  const std::int64_t height = std::abs(std::int64_t{header.biHeight});
   if (header.biWidth <= 0 || header.biWidth > kLargestSide) return {};
   if (height <= 0 || height > kLargestSide || !KnownDepth(header.biBitCount)) return {};
   switch (header.biCompression) {
     case BI_RGB:
     case BI_BITFIELDS:
-      return BytesPerRow(header.biWidth, header.biBitCount) * height;
+      return static_cast<std::uint64_t>(height) * BytesPerRow(header.biWidth, header.biBitCount);
     case BI_RLE4:
     case BI_RLE8:
       return header.biSizeImage;
@@ -73,23 +75,20 @@ std::optional<std::size_t> PixelBytes(const BITMAPINFOHEADER& header) {
   }
 }
 
-/// Where the pixels begin in the block; none when it does not hold what its header says.
-std::optional<std::size_t> PixelOffset(const BITMAPINFOHEADER& header, std::size_t blockBytes) {
-  if (header.biSize < sizeof(BITMAPINFOHEADER) || header.biSize > blockBytes) return {};
-  if (header.biClrUsed > 256) return {};
-  const std::optional<std::size_t> pixels = PixelBytes(header);
-  const std::size_t offset = header.biSize + ColourTableBytes(header);
-  if (!pixels || offset > blockBytes || *pixels > blockBytes - offset) return {};
-  return offset;
+/// Whether the bytes hold what the header says.
+bool IsWhole(const BITMAPINFOHEADER& header, std::size_t bytes, std::size_t pixelOffset) {
+  if (header.biSize < sizeof(BITMAPINFOHEADER) || header.biClrUsed > kMostColours) return false;
+  const std::optional<std::uint64_t> pixels = PixelBytes(header);
+  if (!pixels || pixelOffset > bytes || *pixels > bytes - pixelOffset) return false;
+  return header.biSize <= bytes && header.biSize + ColourTableBytes(header) <= bytes;
 }
 
-Surface Painted(const std::byte* bytes, std::size_t offset) {
-  const auto* info = reinterpret_cast<const BITMAPINFO*>(bytes);
-  const int width = static_cast<int>(info->bmiHeader.biWidth);
-  const int height = std::abs(static_cast<int>(info->bmiHeader.biHeight));
+Surface Painted(const BITMAPINFO& info, const void* pixels) {
+  const int width = static_cast<int>(info.bmiHeader.biWidth);
+  const int height = std::abs(static_cast<int>(info.bmiHeader.biHeight));
   Surface picture(Size{width, height});
   if (picture.Empty()) return picture;
-  ::StretchDIBits(DcOf(picture), 0, 0, width, height, 0, 0, width, height, bytes + offset, info,
+  ::StretchDIBits(DcOf(picture), 0, 0, width, height, 0, 0, width, height, pixels, &info,
                   DIB_RGB_COLORS, SRCCOPY);
   ::GdiFlush();
   return picture;
@@ -154,15 +153,21 @@ std::u16string TextOfBlock(HGLOBAL block) {
   return std::u16string(all.substr(0, all.find(u'\0')));
 }
 
-std::optional<Surface> PictureOfBlock(HGLOBAL block) {
-  const Locked memory(block);
-  const std::size_t bytes = memory.As<std::byte>() ? ::GlobalSize(block) : 0;
-  if (bytes < sizeof(BITMAPINFOHEADER)) return {};
-  const auto offset = PixelOffset(*memory.As<BITMAPINFOHEADER>(), bytes);
-  if (!offset) return {};
-  Surface picture = Painted(memory.As<std::byte>(), *offset);
+std::optional<Surface> PictureOfDib(std::string_view bytes, std::size_t pixelOffset) {
+  if (bytes.size() < sizeof(BITMAPINFOHEADER)) return {};
+  const auto& info = *reinterpret_cast<const BITMAPINFO*>(bytes.data());
+  const BITMAPINFOHEADER& header = info.bmiHeader;
+  if (pixelOffset == 0) pixelOffset = std::size_t{header.biSize} + ColourTableBytes(header);
+  if (!IsWhole(header, bytes.size(), pixelOffset)) return {};
+  Surface picture = Painted(info, bytes.data() + pixelOffset);
   if (picture.Empty()) return {};
   return picture;
+}
+
+std::optional<Surface> PictureOfBlock(HGLOBAL block) {
+  const Locked memory(block);
+  if (!memory.As<char>()) return {};
+  return PictureOfDib({memory.As<char>(), ::GlobalSize(block)});
 }
 
 std::vector<std::u16string> FilesOfBlock(HGLOBAL block) {

@@ -28,4 +28,8 @@ std::u16string TextOfBlock(HGLOBAL block);
 std::optional<Surface> PictureOfBlock(HGLOBAL block);  ///< none where it is not whole
 std::vector<std::u16string> FilesOfBlock(HGLOBAL block);
 
+/// A device-independent bitmap from its header on, aligned as a header is; none where it is not
+/// whole. `pixelOffset` is 0 where the pixels follow the header.
+std::optional<Surface> PictureOfDib(std::string_view bytes, std::size_t pixelOffset = 0);
+
 }  // namespace platform

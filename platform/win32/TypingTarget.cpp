@@ -4,10 +4,11 @@ namespace platform {
 namespace {
 
 constexpr DWORD kPollPause = 1;  // ms
-// For a batch, to a program that is at work; and to one that did not answer the last time, so that
-// one that never does (it may run with higher rights) does not cost a long wait again and again.
-constexpr DWORD kPatience = 3000;
-constexpr DWORD kLittlePatience = 100;
+// For a batch. A program that has not taken it by then never lets its keys be seen (something
+// between swallows the marker), or hangs.
+constexpr DWORD kPatience = 10000;
+// In place of the wait where one cannot see what the target takes, as at a console.
+constexpr DWORD kBlindPause = 20;
 
 /// The thread whose window has the activation; 0 for none and for one of our own, which could take
 /// nothing while we wait.
@@ -52,10 +53,11 @@ void WaitForOtherForeground(DWORD milliseconds) {
 }
 
 bool TypingTarget::Take(KeyBatch& batch) {
-  const SharedInput shared(OtherForegroundThread());
+  const SharedInput shared(seen_ ? OtherForegroundThread() : 0);
   const bool sent = batch.Send();
-  if (sent && shared) answers_ = WaitUntil(MarkerTaken, answers_ ? kPatience : kLittlePatience);
+  seen_ = shared && WaitUntil(MarkerTaken, kPatience);
   ReleaseMarker();
+  if (!seen_) ::Sleep(kBlindPause);
   return sent;
 }
 

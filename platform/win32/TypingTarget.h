@@ -11,12 +11,12 @@ void WaitForOtherForeground(DWORD milliseconds);
 
 class TypingTarget {
  public:
-  /// Injects the batch and returns when the program in the foreground has taken it, or has not
-  /// done so for long. False: not all of it was injected.
+  /// Injects the batch and returns when the program in the foreground has taken it, as far as that
+  /// can be seen. False: not all of it was injected.
   bool Take(KeyBatch& batch);
 
  private:
-  bool answers_ = true;  // the last batch was taken in time
+  bool seen_ = true;  // that the target takes its keys
 };
 
 }  // namespace platform

@@ -3,7 +3,8 @@
 #include <olectl.h>
 #include <wrl/client.h>
 
-#include <utility>
+#include <cstring>
+#include <string>
 
 #include "platform/drawing.h"
 #include "platform/win32/DataBlocks.h"
@@ -72,11 +73,22 @@ std::optional<Surface> Painted(IPicture& picture) {
   return surface;
 }
 
+/// The system's own reader of such files does not notice where they break off.
+std::optional<Surface> BitmapFile(std::string_view bytes) {
+  BITMAPFILEHEADER head{};
+  if (bytes.size() < sizeof(head)) return {};
+  std::memcpy(&head, bytes.data(), sizeof(head));
+  if (head.bfOffBits < sizeof(head)) return {};
+  const std::string bitmap(bytes.substr(sizeof(head)));
+  return PictureOfDib(bitmap, head.bfOffBits - sizeof(head));
+}
+
 }  // namespace
 
 std::optional<Surface> Win32Pictures::Load(std::u16string_view path) {
   const FileContent content = files_.Read(path);
   if (content.status != FileStatus::Done || content.bytes.empty()) return {};
+  if (content.bytes.starts_with("BM")) return BitmapFile(content.bytes);
   const ComPtr<IPicture> picture = PictureOf(content.bytes);
   return picture ? Painted(*picture.Get()) : std::nullopt;
 }
