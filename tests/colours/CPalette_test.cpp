@@ -1,7 +1,9 @@
 #include "colours/CPalette.h"
 
 #include "core/paths.h"
-#include "tests/support/DataDesktop.h"
+#include "tests/colours/hostile.h"
+#include "tests/support/WithData.h"
+#include "tests/support/hostile.h"
 
 namespace dorvalin {
 namespace {
@@ -211,6 +213,17 @@ TEST(ColorClip, CarriesThreeBytesRedFirst) {
   EXPECT_EQ(ColorFromClipData("\x01\x02\xFF"), 0xFF0201);
   EXPECT_EQ(ColorFromClipData("\x01\x02\xFF\x7F more"), 0xFF0201);
   EXPECT_EQ(ColorFromClipData("\x01\x02"), std::nullopt);
+}
+
+TEST(PaletteFile, KeepsItsPromisesWhenDamaged) {
+  TryPaletteFile("");
+  TryDamaged(kThreeFields, 5000, TryPaletteFile);
+}
+
+TEST(ColorText, KeepsItsPromisesWhenDamaged) {
+  for (const auto* sample : {"#FF8000", "0x0080FF", "&H0080FF&", "$000080FF", "255\t128\t0"}) {
+    TryDamaged(sample, 1000, TryColorText);
+  }
 }
 
 }  // namespace

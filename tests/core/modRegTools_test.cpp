@@ -1,6 +1,6 @@
 #include "core/modRegTools.h"
 
-#include "tests/support/DataDesktop.h"
+#include "tests/support/WithData.h"
 
 namespace dorvalin {
 namespace {

@@ -1,7 +1,7 @@
 #include "core/modSpclFolder.h"
 
 #include "core/modRegTools.h"
-#include "tests/support/DataDesktop.h"
+#include "tests/support/WithData.h"
 
 namespace dorvalin {
 namespace {

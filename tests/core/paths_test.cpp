@@ -1,7 +1,7 @@
 #include "core/paths.h"
 
 #include "platform/text.h"
-#include "tests/support/DataDesktop.h"
+#include "tests/support/WithData.h"
 
 namespace dorvalin {
 namespace {

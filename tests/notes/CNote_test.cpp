@@ -3,7 +3,7 @@
 #include "artwork/pictures.h"
 #include "core/paths.h"
 #include "notes/NotesFolder.h"
-#include "tests/support/DataDesktop.h"
+#include "tests/support/WithData.h"
 
 namespace dorvalin {
 namespace {

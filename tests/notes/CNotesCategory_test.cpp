@@ -3,7 +3,7 @@
 #include "core/modRegTools.h"
 #include "notes/NotesFolder.h"
 #include "notes/note_file.h"
-#include "tests/support/DataDesktop.h"
+#include "tests/support/WithData.h"
 
 namespace dorvalin {
 namespace {

@@ -1,6 +1,8 @@
 #include "notes/note_file.h"
 
-#include "tests/support/DataDesktop.h"
+#include "tests/notes/hostile_files.h"
+#include "tests/support/WithData.h"
+#include "tests/support/hostile.h"
 
 namespace dorvalin {
 namespace {
@@ -101,6 +103,11 @@ TEST_F(NoteFile, EveryTruncationKeepsTheWholeNotes) {
     EXPECT_FALSE(read.isWhole) << length;
     EXPECT_EQ(read.notes.size(), (length >= endOfFirst) + (length >= endOfSecond)) << length;
   }
+}
+
+TEST(NoteFiles, KeepTheirPromisesWhenDamaged) {
+  TryNoteFile("");
+  TryDamaged(kTwoNotes, 5000, TryNoteFile);
 }
 
 }  // namespace

@@ -3,7 +3,9 @@
 #include <random>
 
 #include "platform/text.h"
-#include "tests/support/DataDesktop.h"
+#include "tests/quicktext/hostile_files.h"
+#include "tests/support/WithData.h"
+#include "tests/support/hostile.h"
 
 namespace dorvalin {
 namespace {
@@ -308,6 +310,11 @@ TEST_F(PhraseFolder, SurvivesTheFailureOfEveryCall) {
     SCOPED_TRACE(n);
     run(n);
   }
+}
+
+TEST(PhraseFile, KeepsItsPromisesOnDamagedFiles) {
+  TryPhraseFile("");
+  TryDamaged(kTwoElements, 5000, TryPhraseFile);
 }
 
 }  // namespace

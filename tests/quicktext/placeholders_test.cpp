@@ -2,7 +2,7 @@
 
 #include "core/modRegTools.h"
 #include "platform/text.h"
-#include "tests/support/DataDesktop.h"
+#include "tests/support/WithData.h"
 
 namespace dorvalin {
 namespace {

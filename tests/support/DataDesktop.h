@@ -2,11 +2,8 @@
 // with windows needs is a fault of the test here.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 
-#include "core/ProgramState.h"
 #include "platform/desktop.h"
 #include "platform/memory/MemoryClock.h"
 #include "platform/memory/MemoryDialogs.h"
@@ -51,30 +48,3 @@ class DataDesktop : public Desktop {
 };
 
 }  // namespace platform
-
-namespace dorvalin {
-
-inline constexpr char16_t kTestAppPath[] = u"C:\\Programme\\Dorvalin\\";
-inline constexpr char16_t kTestAppData[] = u"C:\\Benutzer\\Anna\\Anwendungsdaten";
-
-/// A fresh desktop and a fresh program on it.
-class WithData : public testing::Test {
- protected:
-  WithData() {
-    desktop.files().PutFolder(kTestAppPath);
-    state.AppPath = kTestAppPath;
-  }
-
-  std::vector<std::u16string> Messages() { return desktop.dialogs().Texts(); }
-
-  platform::DataDesktop desktop;
-  ProgramState state;
-  platform::MemoryFiles& files = desktop.files();
-  platform::Faults& faults = desktop.faults();
-
- private:
-  platform::DesktopScope desktopScope_{desktop};
-  ProgramStateScope stateScope_{state};
-};
-
-}  // namespace dorvalin
