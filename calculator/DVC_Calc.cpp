@@ -48,11 +48,11 @@ DVC_Calc::DVC_Calc(PanelHost& host)
   auto& canvas = pane_->Canvas();
   FillRect(canvas, canvas.Area(), ColourOf(SystemColour::ButtonFace));
   MakeTexts();
+  // Without its lines there is nothing that the keys could write to.
+  if (!txtTerm_ || !txtResult_) return;
   MakeButtons();
-  if (txtTerm_ && txtResult_) {
-    ListenToTexts();
-    AddTabStops();
-  }
+  ListenToTexts();
+  AddTabStops();
 }
 
 DVC_Calc::~DVC_Calc() = default;

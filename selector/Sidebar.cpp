@@ -77,10 +77,10 @@ void HandOver(frmBG& ring, frmMenu& host, const platform::Surface& behindRing, d
     column->ActiveBubble = 0;
     column->Show(platform::ShowMode::NoActivate);
     column->SetActiveBubble(active, false, &host);
-    column->WatchFocus();
-  } else {
-    host.Unload();  // without a column there is no wheel that it could belong to
+    if (column->Loaded()) column->WatchFocus();
   }
+  // A host that no column took has no wheel that it could belong to.
+  if (!host.Free() && (column == nullptr || column->Host != &host)) host.Unload();
   if (flight != nullptr) flight->Unload();
   ring.Unload();
 }

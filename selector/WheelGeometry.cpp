@@ -16,7 +16,7 @@ constexpr int kHitRadiusSquared = 17 * 17;
 constexpr int kRightMargin = 20;  // what a ring keeps free for a sidebar
 constexpr double kTurnStep = 6;   // degrees a frame
 
-double HomeAngle(int index) { return 360.0 / kFunctionCount * (index - 1); }
+double HomeAngle(int index) { return 360.0 / kFunctionCount * (index - 1.0); }
 
 int Rounded(double value) { return static_cast<int>(std::nearbyint(value)); }
 

@@ -327,7 +327,8 @@ void frmBG::OnFormKey(platform::KeyEvent& event) {
 void frmBG::OnMouseMove(const MouseEvent& event) {
   if (Animating_) return;
   const int bubble = BubbleAt(Places(), event.at);
-  if (bubble != HoverBubble_) SetHover(bubble);
+  if (bubble == HoverBubble_) return;
+  SetHover(bubble);
   tmrMouseOut_->SetEnabled(true);
 }
 
@@ -405,8 +406,10 @@ void frmBG::SetInLine() {
   if (kept == nullptr) return;
   kept->Hide();
   TheDesktop().pump().DoEvents();
-  if (!Loaded() || !kept->Loaded()) return;
-  HandOver(*this, *kept, picBG_, Rotation_);
+  if (Loaded() && kept->Loaded()) return HandOver(*this, *kept, picBG_, Rotation_);
+  // One of the two went meanwhile; the other would be left without its partner.
+  kept->Unload();
+  Unload();
 }
 
 }  // namespace dorvalin
