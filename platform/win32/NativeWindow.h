@@ -97,7 +97,7 @@ class NativeWindow {
 };
 
 /// The class of the program's own windows; they all share one procedure.
-inline constexpr const wchar_t* kWindowClass = L"DorvalinWindow";
+inline constexpr wchar_t kWindowClass[] = L"DorvalinWindow";
 
 /// Gives a top-level window the activation, also from the background.
 void BringToForeground(HWND window);

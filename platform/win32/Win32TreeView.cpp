@@ -136,9 +136,11 @@ bool Win32TreeView::Expanded(TreeNode node) const {
 void Win32TreeView::SetExpanded(TreeNode node, bool expanded) {
   const HTREEITEM item = ItemOf(node);
   if (!item || expanded == Expanded(node)) return;
-  // The system tells only of the first opening by code.
+  // The system tells of the first change by code alone; here each one is told.
   if (expanded && Expanding) Expanding(node);
+  expandingByCode_ = true;
   SendPointer(TVM_EXPAND, expanded ? TVE_EXPAND : TVE_COLLAPSE, item);
+  expandingByCode_ = false;
   if (!expanded && Collapsed) Collapsed(node);
 }
 
@@ -149,6 +151,11 @@ TreeNode Win32TreeView::NodeAt(Point client) const {
   return (hit.flags & TVHT_ONITEM) ? NodeOf(hit.hItem) : 0;
 }
 
+void Win32TreeView::TellExpansion(const std::function<void(TreeNode)>& handler,
+                                  const NMTREEVIEWW& change) const {
+  if (handler && !expandingByCode_) handler(platform::NodeOf(change.itemNew));
+}
+
 void Win32TreeView::TellNodeClick(TreeNode node) {
   if (node && NodeClick) NodeClick(node);
 }
@@ -157,10 +164,10 @@ LRESULT Win32TreeView::OnNotify(const NMHDR& notification) {
   const auto& change = reinterpret_cast<const NMTREEVIEWW&>(notification);
   switch (notification.code) {
     case TVN_ITEMEXPANDINGW:
-      if (change.action == TVE_EXPAND && Expanding) Expanding(platform::NodeOf(change.itemNew));
+      if (change.action == TVE_EXPAND) TellExpansion(Expanding, change);
       return FALSE;
     case TVN_ITEMEXPANDEDW:
-      if (change.action == TVE_COLLAPSE && Collapsed) Collapsed(platform::NodeOf(change.itemNew));
+      if (change.action == TVE_COLLAPSE) TellExpansion(Collapsed, change);
       return 0;
     case TVN_SELCHANGEDW:
       TellChange();

@@ -40,12 +40,14 @@ class Win32TreeView final : public ControlOf<TreeView> {
   bool Sorted(TreeNode parent) const { return sorted_.contains(parent); }
   void Forget(TreeNode node);
   void TellNodeClick(TreeNode node);
+  void TellExpansion(const std::function<void(TreeNode)>& handler, const NMTREEVIEWW& change) const;
 
   OwnedImages images_;
   std::map<Icon, int> imageOf_;
   std::unordered_map<TreeNode, HTREEITEM> items_;
   std::set<TreeNode> sorted_;
   TreeNode last_ = 0;
+  bool expandingByCode_ = false;
 };
 
 }  // namespace platform
