@@ -1,6 +1,8 @@
 // A window in the order of the in-process desktop: one of ours or one of another program.
 #pragma once
 
+#include <chrono>
+
 #include "platform/data.h"
 #include "platform/geometry.h"
 #include "platform/input.h"
@@ -13,8 +15,9 @@ struct PointerInput {
   enum class Kind { Press, Release, Move, Wheel };
   Kind kind = Kind::Move;
   Button button = Button::Left;
-  MouseEvent state;     ///< `at` in screen pixels
-  bool second = false;  ///< the second press of a double click
+  MouseEvent state;                 ///< `at` in screen pixels
+  std::chrono::nanoseconds time{};  ///< since the desktop's start
+  bool second = false;              ///< the second press of a double click
   int notches = 0;
 };
 

@@ -1,6 +1,6 @@
 #include "platform/memory/MemoryInput.h"
 
-#include <cstdlib>
+#include <algorithm>
 
 #include "platform/memory/DragSession.h"
 #include "platform/memory/MemoryDesktop.h"
@@ -10,8 +10,6 @@
 namespace platform {
 namespace {
 
-constexpr auto kDoubleClickTime = std::chrono::milliseconds(500);
-constexpr int kDoubleClickSize = 4;
 /// What the system calls a key that stands for a typed character.
 constexpr int kPacketKey = 0xE7;
 
@@ -96,19 +94,9 @@ void MemoryInput::HandMoves(Point to) {
   Send({PointerInput::Kind::Move, Button::Left, State()});
 }
 
-bool MemoryInput::IsSecondPress(Button button) {
-  const auto now = desktop_.clock().SinceStart();
-  const Point by = pointer_ - lastPress_.at;
-  const bool second = lastPress_.button == button && now - lastPress_.time <= kDoubleClickTime &&
-                      std::abs(by.x) < kDoubleClickSize && std::abs(by.y) < kDoubleClickSize;
-  // A third press begins anew.
-  lastPress_ = {button, pointer_, second ? LastPress{}.time : now};
-  return second;
-}
-
 void MemoryInput::HandPresses(Button button) {
   buttons_.set(static_cast<std::size_t>(button));
-  Send({PointerInput::Kind::Press, button, State(), IsSecondPress(button)});
+  Send({PointerInput::Kind::Press, button, State()});
 }
 
 void MemoryInput::HandReleases(Button button) {
@@ -123,6 +111,7 @@ void MemoryInput::HandTurnsWheel(int notches) {
 }
 
 void MemoryInput::Send(PointerInput input) {
+  input.time = desktop_.clock().SinceStart();
   const DesktopWindow* hit = desktop_.stack().At(input.state.at);
   const bool waits = desktop_.drags().Active() || moved_ != nullptr ||
                      desktop_.windows().Captured() != nullptr || (hit != nullptr && hit->Ours());

@@ -48,7 +48,6 @@ class MemoryInput : public Input {
   void Route(const PointerInput& input);
   void SendKey(const KeyInput& input);
   void TypeOne(const KeyStroke& stroke);
-  bool IsSecondPress(Button button);
 
   MemoryDesktop& desktop_;
   Point pointer_{};
@@ -57,12 +56,6 @@ class MemoryInput : public Input {
   bool scrollLock_ = false;
   MemoryTopWindow* moved_ = nullptr;
   Point grip_{};
-
-  struct LastPress {
-    Button button = Button::Left;
-    Point at{};
-    MemoryPump::Duration time{MemoryPump::Duration::min() / 2};
-  } lastPress_;
 };
 
 }  // namespace platform

@@ -10,16 +10,23 @@
 #include "platform/text.h"
 
 namespace platform {
-namespace {
 
-bool Names(const std::u16string& caption, const MenuEntry& entry) {
+void MemoryMenus::Choose(std::u16string_view caption) {
+  answers_.push_back({0, std::u16string(caption)});
+}
+
+void MemoryMenus::ChooseId(int id) { answers_.push_back({id, {}}); }
+
+void MemoryMenus::Dismiss() { answers_.emplace_back(); }
+
+bool MemoryMenus::MenuAnswer::Means(const MenuEntry& entry) const {
+  if (entry.id == 0 || !entry.enabled || !entry.visible) return false;
+  if (id != 0) return entry.id == id;
   return entry.caption == caption || ReplaceAll(entry.caption, u"&", u"") == caption;
 }
 
-}  // namespace
-
 MemoryMenus::MenuAnswer MemoryMenus::NextAnswer() {
-  if (answers_.empty()) return std::monostate{};
+  if (answers_.empty()) return {};
   MenuAnswer answer = std::move(answers_.front());
   answers_.pop_front();
   return answer;
@@ -34,12 +41,8 @@ std::optional<int> MemoryMenus::PopUp(TopWindow& owner, Point screen, const Menu
   desktop_.pump().DoEvents();
   if (whileOpen_) std::exchange(whileOpen_, nullptr)();
   const MenuAnswer answer = NextAnswer();
-  const auto chosen = std::find_if(menu.begin(), menu.end(), [&](const MenuEntry& entry) {
-    if (entry.id == 0 || !entry.enabled || !entry.visible) return false;
-    if (const int* id = std::get_if<int>(&answer)) return entry.id == *id;
-    const auto* caption = std::get_if<std::u16string>(&answer);
-    return caption != nullptr && Names(*caption, entry);
-  });
+  const auto chosen = std::find_if(menu.begin(), menu.end(),
+                                   [&](const MenuEntry& entry) { return answer.Means(entry); });
   return chosen != menu.end() ? std::optional(chosen->id) : std::nullopt;
 }
 

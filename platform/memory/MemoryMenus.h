@@ -3,7 +3,6 @@
 
 #include <deque>
 #include <functional>
-#include <variant>
 
 #include "platform/memory/Faults.h"
 #include "platform/menus.h"
@@ -26,15 +25,20 @@ class MemoryMenus : public Menus {
 
   /// The next menu is answered by the entry with this caption ("&" as in the menu or left out).
   /// Entries that are missing, disabled or hidden cannot be chosen: the menu is dismissed.
-  void Choose(std::u16string caption) { answers_.push_back(std::move(caption)); }
-  void ChooseId(int id) { answers_.push_back(id); }
-  void Dismiss() { answers_.push_back(std::monostate{}); }
+  void Choose(std::u16string_view caption);
+  void ChooseId(int id);
+  void Dismiss();
   /// Runs while a menu stands, before the answer.
   void WhileOpen(std::function<void()> action) { whileOpen_ = std::move(action); }
   const std::vector<ShownMenu>& Shown() const { return shown_; }
 
  private:
-  using MenuAnswer = std::variant<std::monostate, int, std::u16string>;
+  /// By id, or by caption where that is 0; neither dismisses.
+  struct MenuAnswer {
+    int id = 0;
+    std::u16string caption;
+    bool Means(const MenuEntry& entry) const;
+  };
   MenuAnswer NextAnswer();
 
   MemoryDesktop& desktop_;

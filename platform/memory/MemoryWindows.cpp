@@ -1,11 +1,15 @@
 #include "platform/memory/MemoryWindows.h"
 
+#include <cstdlib>
 #include <utility>
 
 #include "platform/memory/MemoryDesktop.h"
 
 namespace platform {
 namespace {
+
+constexpr auto kDoubleClickTime = std::chrono::milliseconds(500);
+constexpr int kDoubleClickSize = 4;
 
 bool IsWithin(const MemoryNode* node, const MemoryNode& root) {
   for (; node != nullptr; node = node->Parent()) {
@@ -96,11 +100,22 @@ void MemoryWindows::TakeFocusFrom(const MemoryNode& node) {
   if (top->Alive() && Focused() == top) top->OnFocusChange(true);
 }
 
-void MemoryWindows::Deliver(MemoryNode& node, const PointerInput& input) {
+bool MemoryWindows::IsSecond(const MemoryNode& node, const PointerInput& press) {
+  const Point by = press.state.at - lastPress_.at;
+  const bool second = lastPress_.node == &node && lastPress_.button == press.button &&
+                      press.time - lastPress_.time <= kDoubleClickTime &&
+                      std::abs(by.x) < kDoubleClickSize && std::abs(by.y) < kDoubleClickSize;
+  // A third press begins anew.
+  lastPress_ = {second ? nullptr : &node, press.button, press.state.at, press.time};
+  return second;
+}
+
+void MemoryWindows::Deliver(MemoryNode& node, PointerInput input) {
   MouseEvent event = input.state;
   event.at = event.at - node.ClientOnScreen();
   const bool press = input.kind == PointerInput::Kind::Press;
   if (press) captured_ = &node;
+  if (press) input.second = IsSecond(node, input);
   if (press && node.Focusable() && &node != node.Top()) {
     Focus(node);
     // A handler of the focus may have closed it; then nothing is captured any more.
@@ -117,6 +132,7 @@ void MemoryWindows::ReleaseCapture(const MemoryNode& within) {
 
 void MemoryWindows::Forget(const MemoryNode& node) {
   if (captured_ == &node) captured_ = nullptr;
+  if (lastPress_.node == &node) lastPress_.node = nullptr;
   for (MemoryTopWindow* top : TopWindows()) {
     if (top->dragTarget_ == &node) top->dragTarget_ = nullptr;
     if (top->focus_ == &node) top->focus_ = top == &node ? nullptr : top;

@@ -35,13 +35,23 @@ class MemoryWindows : public Windows {
   void TakeFocusFrom(const MemoryNode& node);
   MemoryNode* Captured() const { return captured_; }
   /// A press begins the capture, the release of the last button ends it.
-  void Deliver(MemoryNode& node, const PointerInput& input);
+  void Deliver(MemoryNode& node, PointerInput input);
   void ReleaseCapture(const MemoryNode& within);
   void Forget(const MemoryNode& node);
 
  private:
+  /// The last press that reached a window of ours.
+  struct LastPress {
+    const MemoryNode* node = nullptr;
+    Button button = Button::Left;
+    Point at{};
+    std::chrono::nanoseconds time{};
+  };
+  bool IsSecond(const MemoryNode& node, const PointerInput& press);
+
   MemoryDesktop& desktop_;
   MemoryNode* captured_ = nullptr;
+  LastPress lastPress_;
   std::vector<std::u16string> hiddenClasses_;
 };
 
