@@ -7,7 +7,7 @@ import json
 import sys
 import unittest
 
-from stage.ground import E2E, ROOT
+from stage.ground import E2E, ROOT, die_with_parent
 
 RESULTS = ROOT / "build" / "results"
 
@@ -32,6 +32,7 @@ class Counting(unittest.TextTestResult):
 
 
 def main(suite, names):
+    die_with_parent()
     loader = unittest.TestLoader()
     tests = loader.loadTestsFromNames(names) if names else loader.discover(E2E)
     result = unittest.TextTestRunner(sys.stdout, resultclass=Counting, verbosity=2).run(tests)

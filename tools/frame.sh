@@ -2,7 +2,7 @@
 # What ./run and ./test share: telling, installing, building. To be sourced from the checkout's root.
 
 PYTHON=/usr/bin/python3
-WINDOWS_COMPILERS=(g++-mingw-w64-x86-64 g++-mingw-w64-i686)
+WINDOWS_COMPILERS=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix)
 STAGE_PACKAGES=(wine wine64 xvfb xdotool x11-xkb-utils locales fonts-wine fonts-liberation2 python3)
 BUILD_PACKAGES=(build-essential cmake ninja-build ccache)
 

@@ -7,10 +7,12 @@ import os
 import subprocess
 import sys
 
+from .ground import die_with_parent
 from .stage import Stage
 
 
 def main():
+    die_with_parent()
     with Stage() as stage:
         # The caller's own home folder stays in use by compilers and their like.
         env = {**os.environ, "DORVALIN_STAGE": str(stage.folder)}

@@ -87,7 +87,7 @@ def one_at_a_time():
 
 
 def die_with_parent():
-    """For preexec_fn: the child gets a termination signal when this process is killed outright."""
+    """The calling process gets a termination signal when its parent ends, even when that is killed."""
     set_parent_death_signal = 1
     ctypes.CDLL(None).prctl(set_parent_death_signal, signal.SIGTERM)
 

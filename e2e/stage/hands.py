@@ -13,6 +13,17 @@ DRAG_STEPS = 8
 DRAG_PAUSE = 0.03
 
 
+# Wine asks for Shift, AltGr and Ctrl when a program gets to a key, not as they were when it was struck.
+# Let go earlier than that, they change the character; so a busy machine is typed on more slowly.
+SHORTEST_KEY = 40
+LONGEST_KEY = 400
+
+
+def _milliseconds_a_key():
+    processes_a_processor = os.getloadavg()[0] / os.cpu_count()
+    return round(min(max(SHORTEST_KEY, SHORTEST_KEY * processes_a_processor), LONGEST_KEY))
+
+
 class _Hand:
     def __init__(self, display):
         self._env = {**os.environ, "DISPLAY": display}
@@ -83,11 +94,10 @@ class Keyboard(_Hand):
             if number:
                 self.press("Return")
             if line:
-                # At its own pace xdotool mixes up characters that need AltGr or Shift.
-                self._do("type", "--delay", 40, "--", line)
+                self._do("type", "--delay", _milliseconds_a_key(), "--", line)
 
     def press(self, *keys):
-        self._do("key", "--delay", 30, *keys)
+        self._do("key", "--delay", _milliseconds_a_key(), *keys)
 
     def hold(self, key):
         self._do("keydown", key)

@@ -8,7 +8,7 @@ from dataclasses import dataclass
 
 from .ground import E2E, ROOT, WORK, StageError, call, die_with_parent, one_at_a_time, wine_loader
 
-COMPILER = "x86_64-w64-mingw32-g++"
+COMPILER = "x86_64-w64-mingw32-g++-posix"
 FLAGS = ("-std=c++20", f"-I{ROOT}", "-Os", "-s", "-static", "-municode", "-DUNICODE", "-D_UNICODE",
          "-Wall", "-Wextra", "-Werror")
 LIBRARIES = ("-lole32", "-luuid", "-lgdi32")
