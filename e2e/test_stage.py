@@ -90,6 +90,7 @@ class Screen(StageTest):
         empty = self.stage.picture()
         self.assertEqual(len(empty.crop(0, 0, 700, 500).colours()), 1)
         editor = self.stage.open_editor("sichtbar")
+        self.stage.pointer.park()
         picture = self.stage.wait_until_still()
         self.assertGreater(len(picture.colours()), 10)
         self.assertEqual(picture.pixel(*editor.middle), (255, 255, 255))
