@@ -32,6 +32,14 @@ bool IsExtended(int virtualKey) {
   return std::ranges::find(kExtended, virtualKey) != std::end(kExtended);
 }
 
+/// The key to press; 0 for a character that is typed as such. One with modifiers is a key ("Ctrl
+/// and the dot") where the keyboard has it.
+int KeyOf(const KeyStroke& stroke) {
+  if (stroke.virtualKey != 0 || !stroke.modifiers.Any()) return stroke.virtualKey;
+  const SHORT found = ::VkKeyScanW(static_cast<wchar_t>(stroke.unit));
+  return found == -1 ? 0 : LOBYTE(found);
+}
+
 INPUT Event(int virtualKey, WORD scanCode, DWORD flags) {
   INPUT event{};
   event.type = INPUT_KEYBOARD;
@@ -72,12 +80,13 @@ void KeyBatch::Distract() {
 
 void KeyBatch::Add(const KeyStroke& stroke) {
   ++strokes_;
-  if (stroke.virtualKey == 0) return Unit(stroke.unit);
+  const int virtualKey = KeyOf(stroke);
+  if (virtualKey == 0) return Unit(stroke.unit);
   const Modifiers& with = stroke.modifiers;
   if (with.control) Key(VK_CONTROL, kDown);
   if (with.shift) Key(VK_SHIFT, kDown);
   if (with.alt) Key(VK_MENU, kDown);
-  Press(stroke.virtualKey);
+  Press(virtualKey);
   if (with.alt) Key(VK_MENU, kUp);
   if (with.shift) Key(VK_SHIFT, kUp);
   if (with.control) Key(VK_CONTROL, kUp);

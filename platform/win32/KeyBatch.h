@@ -14,7 +14,7 @@ class KeyBatch {
  public:
   /// Begins with letting go of the modifiers that the user holds.
   KeyBatch();
-  /// Enough for one piece: the target works on it for some tenths of a second.
+  /// Enough for one piece: a slow target works on it for some tenths of a second.
   bool Full() const { return strokes_ >= kStrokes; }
   void Add(const KeyStroke& stroke);
   /// Ends it with the marker going down and takes the user's modifiers up again. False: not all was
@@ -22,7 +22,7 @@ class KeyBatch {
   bool Send();
 
  private:
-  static constexpr int kStrokes = 50;
+  static constexpr int kStrokes = 25;
 
   void Key(int virtualKey, DWORD edge);
   void Press(int virtualKey);

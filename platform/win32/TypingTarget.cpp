@@ -28,12 +28,14 @@ bool WaitUntil(Condition holds, DWORD milliseconds) {
   return true;
 }
 
-/// Shares the keyboard state of another thread while it lives.
+/// Shares the keyboard state of another thread while it lives. This one has no windows.
 class SharedInput {
  public:
-  explicit SharedInput(DWORD thread)
-      : thread_(thread),
-        shared_(thread && ::AttachThreadInput(::GetCurrentThreadId(), thread, TRUE)) {}
+  explicit SharedInput(DWORD thread) : thread_(thread) {
+    MSG message;
+    ::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE);  // Makes the queue that is to be shared.
+    shared_ = thread && ::AttachThreadInput(::GetCurrentThreadId(), thread, TRUE);
+  }
   ~SharedInput() {
     if (shared_) ::AttachThreadInput(::GetCurrentThreadId(), thread_, FALSE);
   }
@@ -53,11 +55,16 @@ void WaitForOtherForeground(DWORD milliseconds) {
 }
 
 bool TypingTarget::Take(KeyBatch& batch) {
-  const SharedInput shared(seen_ ? OtherForegroundThread() : 0);
+  const DWORD thread = OtherForegroundThread();
+  const SharedInput shared(mute_ ? 0 : thread);
   const bool sent = batch.Send();
-  seen_ = shared && WaitUntil(MarkerTaken, kPatience);
+  if (shared) {
+    const auto over = [thread] { return MarkerTaken() || OtherForegroundThread() != thread; };
+    mute_ = !WaitUntil(over, kPatience);
+  } else {
+    ::Sleep(kBlindPause);
+  }
   ReleaseMarker();
-  if (!seen_) ::Sleep(kBlindPause);
   return sent;
 }
 

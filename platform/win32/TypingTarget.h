@@ -16,7 +16,7 @@ class TypingTarget {
   bool Take(KeyBatch& batch);
 
  private:
-  bool seen_ = true;  // that the target takes its keys
+  bool mute_ = false;  // nothing shows that the target takes its keys
 };
 
 }  // namespace platform

@@ -2,6 +2,7 @@
 
 #include "platform/win32/KeyBatch.h"
 #include "platform/win32/TypingTarget.h"
+#include "platform/win32/handles.h"
 #include "platform/win32/wide.h"
 
 namespace platform {
@@ -11,6 +12,24 @@ namespace {
 constexpr DWORD kActivationWait = 100;  // ms
 
 bool PhysicallyDown(int virtualKey) { return (::GetAsyncKeyState(virtualKey) & 0x8000) != 0; }
+
+struct Typing {
+  const std::vector<KeyStroke>& strokes;
+  bool complete = true;
+};
+
+DWORD WINAPI TypeAll(void* parameter) {
+  auto& typing = *static_cast<Typing*>(parameter);
+  WaitForOtherForeground(kActivationWait);
+  StrokeReader rest(typing.strokes);
+  TypingTarget target;
+  while (typing.complete && !rest.AtEnd()) {
+    KeyBatch batch;
+    while (!rest.AtEnd() && !batch.Full()) batch.Add(rest.Next());
+    typing.complete = target.Take(batch);
+  }
+  return 0;
+}
 
 /// The asynchronous state knows the buttons by their place, the user by what they do.
 int KeyOf(Button button) {
@@ -50,15 +69,13 @@ void Win32Input::InjectKey(int virtualKey, int scanCode, bool extended, KeyEdge 
 }
 
 bool Win32Input::Type(const std::vector<KeyStroke>& strokes) {
-  WaitForOtherForeground(kActivationWait);
-  StrokeReader rest(strokes);
-  TypingTarget target;
-  while (!rest.AtEnd()) {
-    KeyBatch batch;
-    while (!rest.AtEnd() && !batch.Full()) batch.Add(rest.Next());
-    if (!target.Take(batch)) return false;
-  }
-  return true;
+  // On a thread without windows, whose input can be joined with the target's: the pointer over a
+  // window of this thread, which does not pump meanwhile, would hold up both.
+  Typing typing{strokes};
+  const OwnedKernel thread(::CreateThread(nullptr, 0, TypeAll, &typing, 0, nullptr));
+  if (!thread) return false;
+  ::WaitForSingleObject(thread.get(), INFINITE);
+  return typing.complete;
 }
 
 }  // namespace platform
