@@ -1,0 +1,289 @@
+// Stories of the ring at the pointer.
+#include "core/modRegTools.h"
+#include "platform/memory/MemoryPlainControls.h"
+#include "tests/support/Program.h"
+
+namespace dorvalin {
+namespace {
+
+using platform::Point;
+using platform::Rect;
+
+class AtTheWheel : public WithProgram {
+ protected:
+  void SetUp() override {
+    Store(u"ShowRightBarAtStart", 0);
+    ASSERT_EQ(Start(), StartVerdict::Resident);
+  }
+  std::int32_t LastFunction() { return RegGetLong(kProgramKey, u"LastFunction", -1); }
+  void StoreLastFunction(int function) { RegSetLong(kProgramKey, u"LastFunction", function); }
+};
+
+struct GestureCase {
+  const char* name;
+  bool Settings::*setting;
+  std::vector<Button> buttons;
+  std::chrono::milliseconds atMost;  ///< from the press to the wheel
+};
+
+const GestureCase kGestures[] = {
+    {"both buttons", &Settings::BothBtn, {Button::Left, Button::Right}, 450ms},
+    {"middle button", &Settings::MiddleBtn, {Button::Middle}, 450ms},
+    {"right button", &Settings::RightBtn, {Button::Right}, 600ms},
+    {"left button", &Settings::LeftBtn, {Button::Left}, 750ms},
+};
+
+TEST_F(AtTheWheel, EveryHoldOpensItAndItsReleaseDoesNotCloseIt) {
+  for (const GestureCase& c : kGestures) {
+    SCOPED_TRACE(c.name);
+    settings.LeftBtn = settings.RightBtn = settings.MiddleBtn = settings.BothBtn = false;
+    settings.*c.setting = true;
+    user.MoveTo(editor.Middle());
+    for (Button button : c.buttons) user.Press(button);
+    user.Wait(290ms);
+    EXPECT_EQ(Ring(), nullptr);
+    user.Wait(c.atMost - 290ms + 10ms);
+    ASSERT_NE(Ring(), nullptr);
+    EXPECT_TRUE(Ring()->Opened);
+    for (Button button : c.buttons) user.Release(button);
+    user.Wait(1000ms);
+    ASSERT_NE(Ring(), nullptr);
+    user.Click(Empty(*Ring()));
+    EXPECT_EQ(Ring(), nullptr);
+    EXPECT_TRUE(EditorIsActive());
+  }
+}
+
+TEST_F(AtTheWheel, ScrollLockOpensItAndKeepsItsLamp) {
+  user.KeyDown(platform::key::kScrollLock);
+  user.Wait(150ms);
+  EXPECT_NE(Ring(), nullptr);
+  EXPECT_FALSE(desktop.input().ScrollLockOn());
+  user.KeyUp(platform::key::kScrollLock);
+  user.Wait(500ms);
+  EXPECT_FALSE(desktop.input().ScrollLockOn());
+}
+
+TEST_F(AtTheWheel, ADragOpensNothing) {
+  user.Press(Button::Middle);
+  user.Wait(160ms);
+  user.MoveTo(editor.Middle() + Point{4, 3});
+  user.Wait(5000ms);
+  EXPECT_EQ(Ring(), nullptr);
+  user.Release(Button::Middle);
+  user.Wait(160ms);
+  OpenWheel();
+  EXPECT_NE(Ring(), nullptr);
+}
+
+TEST_F(AtTheWheel, AnswersWhileAModalDialogIsOpenNeitherToGesturesNorToItsIcon) {
+  state.ModalOpen = true;
+  OpenWheel();
+  desktop.taskBar().Happens(platform::TaskBarEvent::LeftUp);
+  user.Wait(100ms);
+  EXPECT_EQ(Ring(), nullptr);
+  state.ModalOpen = false;
+  desktop.taskBar().Happens(platform::TaskBarEvent::LeftUp);
+  user.Wait(0ms);
+  EXPECT_NE(Ring(), nullptr);
+}
+
+TEST_F(AtTheWheel, AClickElsewhereClosesIt) {
+  OpenWheelAt({300, 200});
+  ASSERT_NE(Host(), nullptr);
+  user.Click(Point{580, 460});
+  user.Wait(20ms);
+  EXPECT_EQ(Ring(), nullptr);
+  EXPECT_TRUE(Hosts().empty());
+  EXPECT_TRUE(EditorIsActive());
+}
+
+TEST_F(AtTheWheel, ARightClickOnABubbleDoesNothingAndBesideTheBubblesCloses) {
+  OpenWheel();
+  const int before = Ring()->ActiveBubble;
+  user.Click(Bubble(*Ring(), u"Rechner"), Button::Right);
+  ASSERT_NE(Ring(), nullptr);
+  EXPECT_EQ(Ring()->ActiveBubble, before);
+  user.Click(Empty(*Ring()), Button::Right);
+  EXPECT_EQ(Ring(), nullptr);
+}
+
+TEST_F(AtTheWheel, OpensOnTheLastFunction) {
+  const struct {
+    const char* name;
+    bool startWithLast;
+    int stored;
+    int opens;
+  } cases[] = {
+      {"nothing stored", true, -1, 2},
+      {"with the last", true, 3, 3},
+      {"without it: the menu", false, 3, 1},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    if (c.stored > 0) StoreLastFunction(c.stored);
+    settings.StartWithLast = c.startWithLast;
+    OpenWheel();
+    ASSERT_NE(Ring(), nullptr);
+    EXPECT_EQ(Ring()->ActiveBubble, c.opens);
+    EXPECT_EQ(Host()->Index(), c.opens);
+    user.Click(Empty(*Ring()));
+  }
+}
+
+TEST_F(AtTheWheel, NeverRemembersTheMenuAsTheLastFunction) {
+  StoreLastFunction(3);
+  OpenPanel(u"Menü");
+  user.Click(Empty(*Ring()));
+  EXPECT_EQ(LastFunction(), 3);
+  OpenPanel(u"Dateien");
+  user.Click(Empty(*Ring()));
+  EXPECT_EQ(LastFunction(), 6);
+}
+
+TEST_F(AtTheWheel, AStoredFunctionThatIsNoneOpensAHostWithoutAPanel) {
+  for (int stored : {9, -7, 2147483647, -2147483647 - 1}) {
+    StoreLastFunction(stored);
+    OpenWheel();
+    ASSERT_NE(Host(), nullptr) << stored;
+    EXPECT_EQ(Host()->aCtrl(), nullptr);
+    user.Click(Bubble(*Ring(), u"Rechner"));
+    EXPECT_EQ(Host()->Index(), 3);
+    user.Click(Empty(*Ring()));
+    EXPECT_EQ(LastFunction(), 3);
+  }
+}
+
+TEST_F(AtTheWheel, TurningEndsOnTheSamePictureHoweverItIsDrawn) {
+  const auto pictureAfter = [&](bool dontAnimate, bool fastTurn) {
+    settings.DontAnimate = dontAnimate;
+    settings.FastTurn = fastTurn;
+    StoreLastFunction(2);
+    OpenWheelAt({300, 200});
+    user.Click(Bubble(*Ring(), u"Dateien"));
+    user.MoveTo({10, 700});
+    user.Wait(50ms);
+    auto picture = Ring()->Window().Canvas().Clone();
+    user.Click(Empty(*Ring()));
+    user.Wait(50ms);
+    return picture;
+  };
+  const auto plain = pictureAfter(true, false);
+  for (const bool fast : {false, true}) {
+    const auto turned = pictureAfter(false, fast);
+    ASSERT_EQ(turned.Size(), plain.Size());
+    EXPECT_TRUE(std::equal(turned.Row(0), turned.Row(0) + 120 * 120, plain.Row(0))) << fast;
+  }
+}
+
+TEST_F(AtTheWheel, TheCaptionOfTheBubbleUnderThePointerStandsInTheMiddle) {
+  OpenWheelAt({300, 200});
+  const auto middle = [&] {
+    const auto& canvas = Ring()->Window().Canvas();
+    return std::vector<platform::Pixel>(canvas.Row(60) + 35, canvas.Row(60) + 85);
+  };
+  const auto shape = [&] {
+    return dynamic_cast<platform::MemoryTopWindow&>(Ring()->Window()).Shape();
+  };
+  const auto plain = middle();
+  user.MoveTo(Bubble(*Ring(), u"Farben"));
+  EXPECT_NE(middle(), plain);
+  EXPECT_TRUE(shape().Custom());
+  // The lower part of the active bubble lies under the host.
+  user.MoveTo(Bubble(*Ring(), u"Zeichen") - Point{0, 12});
+  EXPECT_FALSE(shape().Custom()) << "the active bubble is no choice";
+  user.MoveTo({10, 700});
+  user.Wait(50ms);
+  EXPECT_EQ(middle(), plain);
+  settings.ToolTips = false;
+  user.MoveTo(Bubble(*Ring(), u"Farben"));
+  EXPECT_EQ(middle(), plain);
+}
+
+TEST_F(AtTheWheel, StandsOnACopyOfTheScreen) {
+  editor.SetColour(0x3366CC);
+  settings.AnimateFctnsNormal = false;
+  OpenWheelAt({300, 300});
+  const auto& canvas = Ring()->Window().Canvas();
+  EXPECT_EQ(canvas.At({0, 0}), platform::PixelFromColour(0x3366CC));
+  EXPECT_EQ(canvas.At({119, 119}), platform::PixelFromColour(0x3366CC));
+}
+
+TEST_F(AtTheWheel, ClickingTheActiveBubbleGivesTheKeyboardBackToItsPanel) {
+  StoreLastFunction(3);
+  OpenWheel();
+  frmMenu* host = Host();
+  user.Click(Bubble(*Ring(), u"Rechner"));
+  EXPECT_EQ(Host(), host);
+  user.Type(u"1+1\r");
+  EXPECT_EQ(NodesOf<platform::MemoryTextBox>(host->Window())[1]->Text(), u"2");
+}
+
+TEST_F(AtTheWheel, F1OpensTheHelpOfTheFunctionAndWithAModifierTheMainPage) {
+  StoreLastFunction(3);
+  OpenWheel();
+  user.Key(platform::key::kF1);
+  user.Key(platform::key::kF1, {.control = true});
+  EXPECT_EQ(desktop.shell().run,
+            (std::vector<std::u16string>{u"\"C:\\Programme\\Dorvalin\\TOHelp.exe\" features_calc",
+                                         u"\"C:\\Programme\\Dorvalin\\TOHelp.exe\" main"}));
+  desktop.faults().FailAlways("Shell.Run");
+  user.Key(platform::key::kF1);
+  ASSERT_EQ(desktop.dialogs().shown.size(), 1u);
+  const auto& message = desktop.dialogs().shown[0];
+  EXPECT_EQ(message.text, u"Die Hilfedatei TOHelp.exe konnte nicht geöffnet werden");
+  EXPECT_EQ(message.icon, platform::MessageIcon::Exclamation);
+  EXPECT_EQ(message.owner, frmEmpty::WindowOrNull());
+}
+
+TEST_F(AtTheWheel, DraggingOverABubbleOpensItsPanelAndTheWheelTakesNothing) {
+  editor.SetText(u"Text");
+  editor.Edit().Select(0, 4);
+  OpenWheelAt({300, 200});
+  user.MoveTo({110, 110});
+  desktop.input().HandPresses(Button::Left);
+  editor.BeginDrag();
+  user.MoveTo(Bubble(*Ring(), u"Rechner"));
+  user.Wait(50ms);
+  EXPECT_EQ(Ring()->ActiveBubble, 3);
+  user.Release(Button::Left);
+  EXPECT_EQ(editor.Text(), u"Text");
+}
+
+TEST_F(AtTheWheel, AWindowThatCannotBeMadeLeavesNothingBehind) {
+  desktop.faults().FailNext("Windows.NewTopWindow");
+  OpenWheel();
+  EXPECT_EQ(Ring(), nullptr);
+  EXPECT_TRUE(EditorIsActive());
+  OpenWheel();
+  ASSERT_NE(Ring(), nullptr);
+  desktop.faults().FailNext("Windows.NewTopWindow");
+  user.Click(Bubble(*Ring(), u"Rechner"));
+  ASSERT_NE(Ring(), nullptr);
+  EXPECT_EQ(Ring()->Host, nullptr);
+  user.Key(platform::key::kF1);
+  EXPECT_EQ(desktop.shell().run.back(), u"\"C:\\Programme\\Dorvalin\\TOHelp.exe\" main");
+  user.Click(Bubble(*Ring(), u"Farben"));
+  EXPECT_NE(Ring()->Host, nullptr);
+}
+
+// A second click can wait in the queue while the hand-over empties it.
+TEST_F(AtTheWheel, AHandOverWhoseRingIsClosedMeanwhileLeavesNoHiddenHost) {
+  StoreLastFunction(3);
+  OpenWheel();
+  auto& input = desktop.input();
+  const Point button = HostButton(*Host(), u"An Bildschirmrand")->OnScreen().Middle();
+  const Point middle = Empty(*Ring());
+  input.HandMoves(button);
+  input.HandPresses(Button::Left);
+  input.HandReleases(Button::Left);
+  input.HandMoves(middle);
+  input.HandPresses(Button::Left);
+  input.HandReleases(Button::Left);
+  user.Wait(100ms);
+  EXPECT_EQ(Ring(), nullptr);
+  EXPECT_TRUE(Hosts().empty());
+}
+
+}  // namespace
+}  // namespace dorvalin
