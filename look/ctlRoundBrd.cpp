@@ -28,6 +28,7 @@ platform::Colour ColourOf(SystemColour which) {
 
 ctlRoundBrd::ctlRoundBrd(platform::Pane& parent, const Rect& bounds)
     : HighColor_(GetDepth() >= kHighColorDepth),
+      seen_(parent.Visible()),
       pane_(platform::TheDesktop().windows().NewPane(parent, bounds, false, *this)) {
   TakeColours();
   BuildFrame();
