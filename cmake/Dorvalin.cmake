@@ -49,6 +49,15 @@ function(dorvalin_library name)
   _dorvalin_link(dorvalin_${name} PUBLIC ${LIB_LINKS})
 endfunction()
 
+# dorvalin_program(<name> SOURCES <files> [LINKS <folders or libraries>])
+# makes a Windows program without a console.
+function(dorvalin_program name)
+  cmake_parse_arguments(PROGRAM "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} WIN32 ${PROGRAM_SOURCES})
+  target_link_libraries(${name} PRIVATE dorvalin_rules)
+  _dorvalin_link(${name} PRIVATE ${PROGRAM_LINKS})
+endfunction()
+
 # dorvalin_test(<folder> SOURCES <files> [LINKS <folders or libraries>])
 # makes the test program <folder>_tests and tells ctest of it.
 function(dorvalin_test name)
