@@ -40,14 +40,15 @@ Kind LookUp(char16_t unit) { return unit < kKnownUnits ? kKinds[unit] : Kind{}; 
 // Behind one of these a + or - is a sign; a capital E is that of a number's exponent.
 bool MakesSign(char16_t before) { return before == u'E' || LookUp(before).level != 0; }
 
-/// A place for each depth that the text can reach; without brackets that is one.
+/// A place for each depth that the text can reach. It takes no memory before the first bracket
+/// asks.
 class PlaceByDepth {
  public:
-  PlaceByDepth(std::u16string_view text, int none, std::pmr::memory_resource* memory)
-      : deepest_(text.find_first_of(u"()") == text.npos ? 0 : text.size()),
-        places_(2 * deepest_ + 1, none, memory) {}
+  PlaceByDepth(std::size_t deepest, std::pmr::memory_resource* memory)
+      : deepest_(deepest), places_(memory) {}
 
   int& operator[](int depth) {
+    if (places_.empty()) places_.resize(2 * deepest_ + 1, TermMap::kNone);
     return places_[deepest_ + static_cast<std::size_t>(static_cast<std::ptrdiff_t>(depth))];
   }
 
@@ -69,46 +70,46 @@ TermMap::TermMap(std::u16string_view text, std::pmr::memory_resource* memory)
 // From left to right: a place knows the cuts that the last place of its depth knew, and the
 // operator in between. Only at brackets is that place another one than the place before.
 void TermMap::MarkCuts(std::u16string_view text, std::pmr::memory_resource* memory) {
-  PlaceByDepth last(text, -1, memory);
+  PlaceByDepth last(text.size(), memory);
+  int depth = 0;
+  Cuts cuts = kNoCuts;
   char16_t before = 0;  // Blanks do not part an operator from its sign.
   for (int i = 0; i < Length(); ++i) {
     const char16_t unit = text[static_cast<std::size_t>(i)];
     const Kind kind = LookUp(unit);
-    Place& place = At(i + 1);
-    place.depth = At(i).depth + kind.depth;
-    int known = i;
     if (kind.depth != 0) {
-      last[At(i).depth] = i;
-      known = last[place.depth];
+      last[depth] = i;
+      depth += kind.depth;
+      cuts = last[depth] == kNone ? kNoCuts : At(last[depth]).lastCut;
     }
-    if (known >= 0) place.lastCut = At(known).lastCut;
-    if (kind.level > 1 || (kind.level == 1 && !MakesSign(before)))
-      place.lastCut[static_cast<std::size_t>(kind.level - 1)] = i;
+    const int level = kind.level == 1 && MakesSign(before) ? 0 : kind.level;
+    cuts = {level == 1 ? i : cuts[0], level == 2 ? i : cuts[1], level == 3 ? i : cuts[2]};
+    At(i + 1).depth = depth;
+    At(i + 1).lastCut = cuts;
     if (unit != u' ') before = unit;
   }
 }
 
 // From right to left, in the same way.
 void TermMap::MarkNext(std::u16string_view text, std::pmr::memory_resource* memory) {
-  const int none = Length() + 1;
-  PlaceByDepth next(text, none, memory);
-  Place& last = At(Length());
-  last.nextWord = last.nextMark = last.nextGroup = last.nextAtDepth = none;
-  for (int i = Length() - 1; i >= 0; --i) {
-    const char16_t unit = text[static_cast<std::size_t>(i)];
-    const Kind kind = LookUp(unit);
-    const Place& right = At(i + 1);
+  PlaceByDepth next(text.size(), memory);
+  const int beyond = Length() + 1;
+  int word = beyond, mark = beyond, group = beyond;
+  for (int i = Length(); i >= 0; --i) {
+    const Kind kind = i < Length() ? LookUp(text[static_cast<std::size_t>(i)]) : Kind{};
     Place& place = At(i);
     place.nextAtDepth = i + 1;
     if (kind.depth != 0) {
-      next[right.depth] = i + 1;
-      place.nextAtDepth = next[place.depth];
+      next[At(i + 1).depth] = i + 1;
+      const int known = next[place.depth];
+      place.nextAtDepth = known == kNone ? beyond : known;
+      group = kind.depth > 0 ? i : known == kNone ? beyond : At(known).nextGroup;
     }
-    place.nextWord = kind.plain ? right.nextWord : i;
-    place.nextMark = kind.mark ? i : right.nextMark;
-    place.nextGroup = unit == u'('               ? i
-                      : place.nextAtDepth < none ? At(place.nextAtDepth).nextGroup
-                                                 : none;
+    if (!kind.plain && i < Length()) word = i;
+    if (kind.mark) mark = i;
+    place.nextWord = word;
+    place.nextMark = mark;
+    place.nextGroup = group;
   }
 }
 

@@ -22,6 +22,7 @@ struct Range {
 class TermMap {
  public:
   static constexpr int kLevels = 3;
+  static constexpr int kNone = -1;
 
   TermMap(std::u16string_view text, std::pmr::memory_resource* memory);
 
@@ -32,11 +33,11 @@ class TermMap {
     return At(range.begin).depth == At(range.end).depth;
   }
 
-  /// The last operator of the level outside of brackets that is no sign, -1 if there is none. An
+  /// The last operator of the level outside of brackets that is no sign, kNone without one. An
   /// operator at the very beginning cuts nothing and is not told.
   [[nodiscard]] int LastCut(Range range, int level) const {
     const int cut = At(range.end).lastCut[static_cast<std::size_t>(level - 1)];
-    return cut > range.begin ? cut : -1;
+    return cut > range.begin ? cut : kNone;
   }
 
   /// The first character that cannot belong to numbers and level 2 operators, `range.end` for none.
@@ -60,11 +61,14 @@ class TermMap {
   }
 
  private:
+  using Cuts = std::array<int, kLevels>;
+  static constexpr Cuts kNoCuts{kNone, kNone, kNone};
+
   /// What is known of the place in front of a character, or behind the last one. The next of
   /// something is beyond the text if there is none.
   struct Place {
-    int depth = 0;                                 ///< brackets open in front of it
-    std::array<int, kLevels> lastCut{-1, -1, -1};  ///< the nearest at the same depth before it
+    int depth = 0;           ///< brackets open in front of it
+    Cuts lastCut = kNoCuts;  ///< the nearest at the same depth before it
     int nextWord = 0;
     int nextMark = 0;  ///< operator, bracket or postfix
     int nextGroup = 0;

@@ -74,7 +74,8 @@ bool TermSolver::Splits(Frame& frame, int level, Next& next) {
 }
 
 TermSolver::Split TermSolver::FindSplit(Range range, int level) const {
-  if (const int cut = map_.LastCut(range, level); cut >= 0) return {Split::Kind::Between, cut};
+  if (const int cut = map_.LastCut(range, level); cut != TermMap::kNone)
+    return {Split::Kind::Between, cut};
   const bool leading =
       !range.Empty() && TermMap::LevelOf(Unit(range.begin)) == level && map_.Balances(range);
   return {leading ? Split::Kind::Leading : Split::Kind::None, range.begin};
@@ -168,12 +169,6 @@ TermSolver::Next TermSolver::AfterGroup(Frame& frame, const Solved& part) {
 std::u16string_view TermSolver::Text(Range range) const {
   return text_.substr(static_cast<std::size_t>(range.begin),
                       static_cast<std::size_t>(range.end - range.begin));
-}
-
-Range TermSolver::Trimmed(Range range) const {
-  while (!range.Empty() && Unit(range.end - 1) == u' ') --range.end;
-  while (!range.Empty() && Unit(range.begin) == u' ') ++range.begin;
-  return range;
 }
 
 std::uint64_t TermSolver::KeyOf(Range range) {

@@ -78,7 +78,11 @@ class TermSolver {
 
   char16_t Unit(int at) const { return text_[static_cast<std::size_t>(at)]; }
   std::u16string_view Text(Range range) const;
-  Range Trimmed(Range range) const;
+  Range Trimmed(Range range) const {
+    while (!range.Empty() && Unit(range.end - 1) == u' ') --range.end;
+    while (!range.Empty() && Unit(range.begin) == u' ') ++range.begin;
+    return range;
+  }
 
   bool Remembers() const { return failures_ > kFailuresToRepeat; }
   static std::uint64_t KeyOf(Range range);

@@ -31,7 +31,6 @@ class Spelling {
 
  private:
   bool Sees(char16_t unit) const { return !rest_.empty() && rest_.front() == unit; }
-  bool SeesDigit() const { return !rest_.empty() && IsDigit(rest_.front()); }
 
   void Put(char unit) { plain_[length_++] = unit; }
 
@@ -47,9 +46,13 @@ class Spelling {
   }
 
   bool TakeDigits() {
-    const bool any = SeesDigit();
-    while (SeesDigit()) Take();
-    return any;
+    std::size_t count = 0;
+    char* const out = plain_.data() + length_;
+    for (; count < rest_.size() && IsDigit(rest_[count]); ++count)
+      out[count] = static_cast<char>(rest_[count]);
+    length_ += count;
+    rest_.remove_prefix(count);
+    return count > 0;
   }
 
   // Grouping is not counted in threes: users leave groups out and type them where they like.
