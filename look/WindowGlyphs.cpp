@@ -31,7 +31,7 @@ constexpr GlyphCaption kCaptions[] = {
 };
 
 /// How thick the strokes of a sign of that size are.
-int StrokeOf(int side) { return std::max((side + 3) / 6, 1); }
+int StrokeOf(int side) { return (side + 5) / 6; }
 
 // Its strokes are wider than high, so the sign is one stroke wider than the box.
 void DrawCross(Surface& surface, const Rect& box, Colour colour) {
@@ -65,8 +65,7 @@ void DrawWindow(Surface& surface, const Rect& box, int stroke, Colour colour) {
 }
 
 // Two windows behind each other; of the one behind only what the one in front leaves free.
-void DrawRestore(Surface& surface, const Rect& box, Colour colour) {
-  const int stroke = StrokeOf(box.Width());
+void DrawRestore(Surface& surface, const Rect& box, int stroke, Colour colour) {
   const int side = box.Width() - 2;
   const Rect front{box.left, box.bottom - side + 1, box.left + side, box.bottom};
   const Rect behind{box.right - side, box.top, box.right, box.top + side - 1};
@@ -107,7 +106,7 @@ void DrawGlyph(Surface& surface, const Rect& area, WindowGlyph glyph, Colour col
       return FillRect(surface, {box.left, box.bottom - StrokeOf(side), box.right, box.bottom},
                       colour);
     case WindowGlyph::Restore:
-      return DrawRestore(surface, box.Grown(1), colour);
+      return DrawRestore(surface, box.Grown(1), StrokeOf(side), colour);
     case WindowGlyph::Maximise:
       return DrawWindow(surface, box.Grown(1), StrokeOf(side), colour);
   }

@@ -20,10 +20,12 @@ using platform::TheDesktop;
 constexpr int kOutInterval = 1;      // milliseconds
 constexpr int kFlashInterval = 300;  // milliseconds
 constexpr platform::Colour kDisabledText = 0x808080;
+constexpr platform::Colour kFocusDots = 0x808080;
 constexpr platform::Colour kGreen = 0x00FF00;
 constexpr std::uint8_t kFlashAlpha = 200;
 constexpr int kIconGap = 4;
 constexpr int kFocusInset = 3;
+constexpr int kSmallFocusInset = 2;  // clear of the sign in a window button
 
 platform::Colour Face() {
   return TheDesktop().screen().SystemColourOf(platform::SystemColour::ButtonFace);
@@ -133,7 +135,8 @@ void ctlButton::DrawFace() {
             .isDefault = LookDefault,
             .enabled = enabled_,
             .hover = Hover_});
-  if (HasFocus_) DrawDotted(canvas, canvas.Area().Grown(-kFocusInset), kDisabledText);
+  const int inset = GlyphOf(caption_) ? kSmallFocusInset : kFocusInset;
+  if (HasFocus_) DrawDotted(canvas, canvas.Area().Grown(-inset), kFocusDots);
 }
 
 platform::Colour ctlButton::TextColour() const { return enabled_ ? foreColour_ : kDisabledText; }
