@@ -148,6 +148,8 @@ struct TopWindowOptions {
   std::u16string caption;
   class TopWindow* owner = nullptr;  ///< stays behind this window; may be none
   bool inTaskBar = false;
+  /// False: neither a click nor another window's going makes it the active one.
+  bool activatable = true;
 };
 
 class TopWindow : public Pane {

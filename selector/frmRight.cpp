@@ -27,7 +27,8 @@ std::optional<Rect> EdgeArea(int rightBarArea, platform::Size screen) {
   return std::nullopt;
 }
 
-frmRight::frmRight() : Form("frmRight", {}) {}
+// The target keeps the focus, also when the edge is clicked.
+frmRight::frmRight() : Form("frmRight", {.activatable = false}) {}
 
 frmRight* frmRight::Instance() { return StateOf<LoadedEdge>().form; }
 

@@ -37,6 +37,7 @@ class DesktopWindow {
   virtual bool Shown() const = 0;
   /// False: clicks are lost on it, and the activation passes it over.
   virtual bool TakesInput() const { return true; }
+  virtual bool Activatable() const { return true; }
   virtual bool TopMost() const { return false; }
   virtual DesktopWindow* Owner() const { return nullptr; }
   virtual bool Covers(Point screen) const { return Area().Contains(screen); }

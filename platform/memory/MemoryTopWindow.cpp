@@ -35,6 +35,7 @@ MemoryTopWindow::MemoryTopWindow(MemoryDesktop& desktop, const TopWindowOptions&
       caption_(options.caption),
       owner_(static_cast<MemoryTopWindow*>(options.owner)),
       inTaskBar_(options.inTaskBar),
+      activatable_(options.activatable),
       focus_(this) {
   SetTop(*this);
   SetVisibleFlag(false);
@@ -183,8 +184,10 @@ bool MemoryTopWindow::PressFrame(const PointerInput& input) {
 void MemoryTopWindow::OnPointer(const PointerInput& input) {
   const bool press = input.kind == PointerInput::Kind::Press;
   if (press) {
-    Desktop().stack().Raise(*this);
-    Desktop().stack().Activate(this);
+    if (activatable_) {
+      Desktop().stack().Raise(*this);
+      Desktop().stack().Activate(this);
+    }
     if (!Alive() || PressFrame(input)) return;
   }
   MemoryNode* hit = InnermostAt(input.state.at - ClientOnScreen());

@@ -30,6 +30,7 @@ class MemoryTopWindow final : public PaneOf<TopWindow>, public DesktopWindow {
   Rect Area() const override { return Place(); }
   bool Shown() const override { return Visible(); }
   bool TakesInput() const override { return Enabled(); }
+  bool Activatable() const override { return activatable_; }
   bool TopMost() const override { return topMost_; }
   DesktopWindow* Owner() const override { return owner_; }
   bool Covers(Point screen) const override;
@@ -64,6 +65,7 @@ class MemoryTopWindow final : public PaneOf<TopWindow>, public DesktopWindow {
   std::u16string caption_;
   MemoryTopWindow* owner_;
   bool inTaskBar_;
+  bool activatable_;
   Icon icon_;
   bool topMost_ = false;
   std::optional<Rect> ellipse_;

@@ -20,7 +20,7 @@ bool InTopMostBand(const DesktopWindow* window) {
 }
 
 bool CanBeActive(const DesktopWindow* window) {
-  return window != nullptr && window->Shown() && window->TakesInput();
+  return window != nullptr && window->Shown() && window->TakesInput() && window->Activatable();
 }
 
 }  // namespace

@@ -25,6 +25,7 @@ Frame FrameOf(const TopWindowOptions& options) {
   } else if (!dialog) {
     frame.extended |= WS_EX_TOOLWINDOW;
   }
+  if (!options.activatable) frame.extended |= WS_EX_NOACTIVATE;
   return frame;
 }
 
@@ -134,12 +135,20 @@ std::optional<LRESULT> Win32TopWindow::Receive(const WindowMessage& message) {
   switch (message.id) {
     case WM_ACTIVATE:
       return Activated(message);
+    case WM_MOUSEACTIVATE:
+      return AnswerClick();
     case WM_CLOSE:
       topEvents_.OnCloseRequest();
       return 0;
     default:
       return PaneWindow::Receive(message);
   }
+}
+
+std::optional<LRESULT> Win32TopWindow::AnswerClick() const {
+  // The style alone keeps the system from choosing the window, but not a click from activating it.
+  const auto style = ::GetWindowLongPtrW(Handle(), GWL_EXSTYLE);
+  return (style & WS_EX_NOACTIVATE) != 0 ? std::optional<LRESULT>(MA_NOACTIVATE) : std::nullopt;
 }
 
 LRESULT Win32TopWindow::Activated(const WindowMessage& message) {

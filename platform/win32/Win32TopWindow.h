@@ -29,6 +29,7 @@ class Win32TopWindow final : public PaneOf<TopWindow> {
   bool PreviewKey(const MSG& message);
 
  private:
+  std::optional<LRESULT> AnswerClick() const;
   LRESULT Activated(const WindowMessage& message);
   void KeepFocus();
   void RestoreFocus();
