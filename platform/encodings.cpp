@@ -86,10 +86,15 @@ char ByteOf(char32_t c) {
   return hit == kWindows1252.end() ? '?' : static_cast<char>(0x80 + (hit - kWindows1252.begin()));
 }
 
-char16_t UnitOf(char byte) {
-  const auto number = static_cast<unsigned char>(byte);
-  return number >= 0x80 && number < 0xA0 ? kWindows1252[number - 0x80u] : number;
+constexpr std::array<char16_t, 256> MakeUnits() {
+  std::array<char16_t, 256> units{};
+  for (std::size_t byte = 0; byte < 256; ++byte) units[byte] = static_cast<char16_t>(byte);
+  std::ranges::copy(kWindows1252, units.begin() + 0x80);
+  return units;
 }
+
+constexpr std::array<char16_t, 256> kUnits = MakeUnits();
+char16_t UnitOf(char byte) { return kUnits[static_cast<unsigned char>(byte)]; }
 
 }  // namespace
 
@@ -108,9 +113,13 @@ std::u16string FromUtf8(std::string_view text) {
 }
 
 std::string ToWindows1252(std::u16string_view text) {
-  std::string result;
-  result.reserve(text.size());
-  for (std::size_t at = 0; at < text.size();) result.push_back(ByteOf(NextFromUtf16(text, at)));
+  std::string result(text.size(), '\0');
+  auto out = result.begin();
+  for (std::size_t at = 0; at < text.size();) {
+    // Nearly everything is ASCII.
+    *out++ = text[at] < 0x80 ? static_cast<char>(text[at++]) : ByteOf(NextFromUtf16(text, at));
+  }
+  result.erase(out, result.end());
   return result;
 }
 

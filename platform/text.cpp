@@ -10,7 +10,9 @@ namespace {
 constexpr LetterTable kToLower = MakeLetterTable(true);
 constexpr LetterTable kToUpper = MakeLetterTable(false);
 
-bool EqualIgnoringCase(char16_t a, char16_t b) { return LowerUnit(a) == LowerUnit(b); }
+bool EqualIgnoringCase(std::u16string_view a, std::u16string_view b) {
+  return std::ranges::equal(a, b, {}, LowerUnit, LowerUnit);
+}
 
 }  // namespace
 
@@ -31,12 +33,15 @@ std::u16string_view Trim(std::u16string_view text) {
 
 std::size_t Find(std::u16string_view text, std::u16string_view what, Case compare,
                  std::size_t from) {
-  if (compare == Case::Exact) return text.find(what, from);
-  if (from > text.size()) return text.npos;
-  const auto hit = std::search(text.begin() + static_cast<std::ptrdiff_t>(from), text.end(),
-                               what.begin(), what.end(), EqualIgnoringCase);
-  if (hit == text.end() && !what.empty()) return text.npos;
-  return static_cast<std::size_t>(hit - text.begin());
+  if (compare == Case::Exact || what.empty()) return text.find(what, from);
+  const char16_t first = LowerUnit(what[0]);
+  const char16_t firstUpper = UpperUnit(first);
+  for (auto at = from; at + what.size() <= text.size(); ++at) {
+    const char16_t unit = text[at];
+    const bool mayBeHere = unit == first || unit == firstUpper;
+    if (mayBeHere && EqualIgnoringCase(text.substr(at, what.size()), what)) return at;
+  }
+  return text.npos;
 }
 
 std::u16string ReplaceAll(std::u16string_view text, std::u16string_view what,

@@ -1,7 +1,5 @@
 #include "quicktext/phrase_file.h"
 
-#include <algorithm>
-
 #include "platform/desktop.h"
 #include "platform/locale.h"
 
@@ -20,6 +18,30 @@ std::string_view TrimBlanks(std::string_view line) {
   return line.substr(first, line.find_last_not_of(' ') - first + 1);
 }
 
+/// Lines with their breaks. As long as they follow each other in the file they are one piece of it.
+class Lines {
+ public:
+  void Add(std::string_view line) {
+    if (!any_) {
+      piece_ = line;
+    } else if (joined_.empty() && piece_.end() + kLineEnd.size() == line.begin()) {
+      piece_ = {piece_.begin(), line.end()};
+    } else {
+      if (joined_.empty()) joined_ = piece_;
+      joined_.append(kLineEnd).append(line);
+    }
+    any_ = true;
+  }
+
+  bool Any() const { return any_; }
+  std::string_view Bytes() const { return joined_.empty() ? piece_ : joined_; }
+
+ private:
+  bool any_ = false;
+  std::string_view piece_;
+  std::string joined_;
+};
+
 class PhraseReader {
  public:
   explicit PhraseReader(std::u16string_view group) : group_(group) {}
@@ -33,45 +55,46 @@ class PhraseReader {
     } else if (marker == kRtfMarker) {
       inRtf_ = true;
     } else {
-      inElement_ = true;
-      (inRtf_ ? rtf_ : text_).append(kLineEnd).append(line);
+      (inRtf_ ? rtf_ : text_).Add(line);
     }
   }
 
   void EndElement() {
-    // Every line brought the break in front of itself, the first one too.
-    KeepElement(kLineEnd.size());
+    KeepElement({});
     inRtf_ = false;
   }
 
-  void LeaveElementUnfinished() { KeepElement(0); }
+  /// Every line brings the break in front of itself, and only the end of the element takes the
+  /// first one away again: an element that was not read to its end begins with it.
+  void LeaveElementUnfinished() { KeepElement(u"\r\n"); }
 
   PhraseCollection Take() { return std::move(phrases_); }
 
  private:
-  void KeepElement(std::size_t cut) {
-    if (inElement_) {
+  void KeepElement(std::u16string_view start) {
+    if (text_.Any() || rtf_.Any()) {
       auto phrase = std::make_shared<CPhrase>();
-      phrase->Text = FromAnsi(text_, cut);
-      phrase->RTFText = FromAnsi(rtf_, cut);
+      phrase->Text = TextOf(text_, start);
+      phrase->RTFText = TextOf(rtf_, start);
       phrase->Group = group_;
       phrases_.push_back(std::move(phrase));
     }
-    inElement_ = false;
-    text_.clear();
-    rtf_.clear();
+    text_ = {};
+    rtf_ = {};
   }
 
-  std::u16string FromAnsi(std::string_view bytes, std::size_t cut) {
-    return locale_.FromAnsi(bytes.substr(std::min(cut, bytes.size())));
+  std::u16string TextOf(const Lines& lines, std::u16string_view start) {
+    if (!lines.Any()) return {};
+    auto text = locale_.FromAnsi(lines.Bytes());
+    if (!start.empty()) text.insert(0, start);
+    return text;
   }
 
   platform::Locale& locale_ = TheDesktop().locale();
   std::u16string_view group_;
   PhraseCollection phrases_;
-  std::string text_;
-  std::string rtf_;
-  bool inElement_ = false;
+  Lines text_;
+  Lines rtf_;
   bool inRtf_ = false;
 };
 
