@@ -145,7 +145,7 @@ enum class FrameStyle { Borderless, Dialog };  ///< Dialog: title bar with a clo
 
 struct TopWindowOptions {
   FrameStyle frame = FrameStyle::Borderless;
-  std::u16string caption;
+  std::u16string caption{};
   class TopWindow* owner = nullptr;  ///< stays behind this window; may be none
   bool inTaskBar = false;
   /// False: neither a click nor another window's going makes it the active one.
