@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include "core/ProgramState.h"
+#include "core/UpperFloors.h"
 #include "core/frmEmpty.h"
 #include "core/modDorvalin.h"
 #include "platform/memory/ForeignWindow.h"
