@@ -21,6 +21,7 @@ void CheckBoxOf<Port>::PaintOn(Surface& screen, const Rect& place, const Rect& c
   const Rect box{place.left, top, place.left + kBox, top + kBox};
   if constexpr (std::is_same_v<Port, OptionButton>) {
     DrawCircle(screen, box.Middle(), kBox / 2 - 1, 0x808080);
+    DrawCircle(screen, box.Middle(), kBox / 2 - 2, 0xFFFFFF);
     if (checked_) FillRect(screen, box.Grown(-4).Intersected(clip), 0);
   } else {
     FillRect(screen, box.Intersected(clip), 0xFFFFFF);

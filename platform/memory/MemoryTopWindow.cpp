@@ -112,6 +112,8 @@ void MemoryTopWindow::Close() {
   }
   MemoryDesktop& desktop = Desktop();
   desktop.windows().ReleaseCapture(*this);
+  desktop.input().Forget(*this);
+  desktop.drags().Forget(*this);
   desktop.stack().Remove(*this);
   CutOff();
 }

@@ -1,0 +1,83 @@
+// The frame of the conformance tests: a fresh desktop, and windows that tell what happens to them.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "platform/Form.h"
+#include "platform/clock.h"
+#include "platform/controls.h"
+#include "platform/data.h"
+#include "platform/menus.h"
+#include "platform/pump.h"
+#include "platform/screen.h"
+#include "platform/text.h"
+#include "platform/window.h"
+#include "tests/conformance/DesktopUnderTest.h"
+
+namespace conformance {
+
+using namespace std::chrono_literals;
+using platform::ShowMode;
+using platform::TopWindow;
+
+/// Keeps what a window is told, in a row.
+class Listener : public platform::TopWindowEvents {
+ public:
+  std::vector<std::string> log;
+  std::function<void()> onMouseDown;
+  std::function<void()> onMouseMove;
+  std::function<platform::DropEffect(const platform::DragEvent&)> onDrop;
+  platform::DropEffect dropEffect = platform::DropEffect::None;
+  std::u16string typed;
+  platform::MouseEvent lastMouse;
+
+  int Count(const std::string& what) const;
+
+  void OnMouseDown(Button button, const platform::MouseEvent& event) override;
+  void OnMouseUp(Button button, const platform::MouseEvent& event) override;
+  void OnMouseMove(const platform::MouseEvent& event) override;
+  void OnDoubleClick(Button button, const platform::MouseEvent& event) override;
+  void OnKeyDown(platform::KeyEvent& event) override;
+  void OnChar(platform::CharEvent& event) override { typed += event.unit; }
+  void OnFocus(bool gained) override { log.emplace_back(gained ? "focus" : "no focus"); }
+  void OnResize() override { log.emplace_back("resize"); }
+  void OnVisible(bool visible) override { log.emplace_back(visible ? "seen" : "gone"); }
+  void OnActivate(platform::Activation now) override;
+  platform::DropEffect OnDrag(const platform::DragEvent& event) override;
+  platform::DropEffect OnDrop(const platform::DragEvent& event) override;
+};
+
+class Conformance : public testing::Test {
+ protected:
+  /// Above the bar of a desktop, with room for another program beside it.
+  static constexpr Rect kOurs{60, 60, 260, 220};
+  static constexpr Rect kTheirs{420, 80, 820, 380};
+
+  Conformance() : under_(NewDesktopUnderTest()), scope_(under_->desktop()) {}
+
+  DesktopUnderTest& under() { return *under_; }
+  platform::Desktop& desktop() { return under_->desktop(); }
+
+  std::unique_ptr<TopWindow> NewWindow(Listener& listener, const Rect& bounds,
+                                       TopWindow* owner = nullptr);
+  std::unique_ptr<OtherProgram> StartOther() { return under().Start(kTheirs); }
+
+  void Settle() { under().Pump(150ms); }
+  /// Pumps until the condition holds; false when it does not within the time.
+  bool Until(const std::function<bool()>& condition, std::chrono::milliseconds time = 5s);
+  bool OtherHasForeground();
+  bool HasForeground(const TopWindow& window);
+  bool OtherHolds(OtherProgram& other, const std::u16string& text);
+
+  void Click(Point p, Button button = Button::Left);
+  void Click(const platform::Window& window) { Click(window.ScreenBounds().Middle()); }
+  void PressKey(int virtualKey);
+  /// With the pointer, in steps that a drag needs; planned from now on.
+  void PlanDrag(Point from, Point to);
+
+ private:
+  std::unique_ptr<DesktopUnderTest> under_;
+  platform::DesktopScope scope_;
+};
+
+}  // namespace conformance

@@ -1,0 +1,280 @@
+// The native controls, as their users know them.
+#include "tests/conformance/Conformance.h"
+
+namespace conformance {
+namespace {
+
+namespace key = platform::key;
+
+class Controls : public Conformance {
+ protected:
+  void SetUp() override {
+    window_ = NewWindow(listener_, {60, 60, 460, 360});
+    window_->Show(ShowMode::Activate);
+    ASSERT_TRUE(HasForeground(*window_));
+  }
+  platform::Controls& controls() { return desktop().controls(); }
+  TopWindow& window() { return *window_; }
+  std::unique_ptr<platform::TextBox> NewTextBox(const platform::TextBoxStyle& style = {}) {
+    return controls().NewTextBox(window(), {10, 10, 210, style.multiLine ? 110 : 34}, style);
+  }
+  void Type(std::initializer_list<int> keys) {
+    for (int virtualKey : keys) PressKey(virtualKey);
+  }
+
+ private:
+  Listener listener_;
+  std::unique_ptr<TopWindow> window_;
+};
+
+TEST_F(Controls, ATextBoxKeepsSelectionAndCaret) {
+  const auto box = NewTextBox();
+  box->SetText(u"Grüße");
+  box->Select(1, 3);
+  EXPECT_EQ(box->SelStart(), 1);
+  EXPECT_EQ(box->SelLength(), 3);
+  box->ReplaceSelection(u"€");
+  EXPECT_EQ(box->Text(), u"G€e");
+  EXPECT_EQ(box->SelStart(), 2) << "the caret stands behind the new text";
+  EXPECT_EQ(box->SelLength(), 0);
+  box->Select(2, 100);
+  EXPECT_EQ(box->SelLength(), 1);
+  box->Select(100, 5);
+  EXPECT_EQ(box->SelStart(), 3);
+  EXPECT_EQ(box->SelLength(), 0);
+}
+
+TEST_F(Controls, TypedKeysReplaceTheSelectionAndTellOfTheChange) {
+  const auto box = NewTextBox();
+  int changes = 0;
+  box->events.Change = [&] { ++changes; };
+  box->SetText(u"abc");
+  EXPECT_EQ(changes, 1);
+  box->Focus();
+  ASSERT_TRUE(box->HasFocus());
+  box->Select(1, 1);
+  Type({'X'});
+  EXPECT_EQ(box->Text(), u"axc");
+  Type({key::kHome, key::kDelete, key::kEnd, key::kBack, key::kEnter, 'Y'});
+  EXPECT_EQ(box->Text(), u"xy") << "a single line takes no line end";
+  EXPECT_EQ(changes, 5);
+}
+
+TEST_F(Controls, HandlersStandBeforeTheTextBox) {
+  const auto box = NewTextBox();
+  box->Focus();
+  box->events.KeyDown = [](platform::KeyEvent& event) { event.handled = event.virtualKey == 'A'; };
+  box->events.Char = [](platform::CharEvent& event) {
+    if (event.unit == u'b') event.unit = u'ß';
+    if (event.unit == u'c') event.unit = 0;
+  };
+  Type({'A', 'B', 'C', 'D'});
+  EXPECT_EQ(box->Text(), u"ßd");
+}
+
+TEST_F(Controls, LineEndsCountTwoPositions) {
+  const auto box = NewTextBox({.multiLine = true});
+  box->SetText(u"ab\r\ncd");
+  EXPECT_EQ(box->Text(), u"ab\r\ncd");
+  box->Select(4, 1);
+  box->ReplaceSelection(u"X");
+  EXPECT_EQ(box->Text(), u"ab\r\nXd");
+  box->Focus();
+  box->Select(2, 0);
+  Type({key::kRight, key::kEnter});
+  EXPECT_EQ(box->Text(), u"ab\r\n\r\nXd");
+  EXPECT_EQ(box->SelStart(), 6);
+  Type({key::kBack, key::kBack});
+  EXPECT_EQ(box->Text(), u"abXd");
+}
+
+TEST_F(Controls, AReadOnlyBoxIsChangedByCodeAlone) {
+  const auto box = NewTextBox({.readOnly = true});
+  box->SetText(u"fest");
+  box->Focus();
+  Type({'X', key::kDelete});
+  EXPECT_EQ(box->Text(), u"fest");
+}
+
+TEST_F(Controls, ARichTextBoxKeepsPropertiesOfItsParts) {
+  const auto box = controls().NewRichTextBox(window(), {10, 10, 310, 110}, {.multiLine = true});
+  ASSERT_TRUE(box);
+  box->SetText(u"ein fettes Wort");
+  box->Select(4, 6);
+  platform::RichSelection bold;
+  bold.bold = true;
+  box->SetSelection(bold);
+  EXPECT_EQ(box->Selection().bold, true);
+  box->Select(0, 3);
+  EXPECT_EQ(box->Selection().bold, false);
+  box->Select(0, 15);
+  EXPECT_FALSE(box->Selection().bold.has_value()) << "it differs within the selection";
+  platform::RichSelection rest;
+  rest.face = u"Arial";
+  rest.points = 14;
+  rest.colour = 0x0000FF;
+  rest.alignment = platform::Alignment::Centre;
+  box->SetSelection(rest);
+  const auto now = box->Selection();
+  EXPECT_EQ(now.face, u"Arial");
+  EXPECT_EQ(now.points, 14);
+  EXPECT_EQ(now.colour, 0x0000FFu);
+  EXPECT_EQ(now.alignment, platform::Alignment::Centre);
+  EXPECT_FALSE(now.bold.has_value()) << "what was not asked for stays";
+}
+
+TEST_F(Controls, RichTextGoesOutAndInAgain) {
+  const auto box = controls().NewRichTextBox(window(), {10, 10, 310, 110}, {.multiLine = true});
+  EXPECT_TRUE(
+      box->SetRichText(R"({\rtf1\ansi\ansicpg1252 gr\'fc\'dfe \b \u8364?\b0\par zwei\par})"));
+  EXPECT_EQ(box->Text().substr(0, 13), u"grüße €\r\nzwei");
+  box->Select(6, 1);
+  EXPECT_EQ(box->Selection().bold, true);
+  const std::string source = box->RichText();
+  EXPECT_TRUE(source.starts_with("{\\rtf"));
+  const auto text = box->Text();
+  EXPECT_FALSE(box->SetRichText("kein Rich Text"));
+  EXPECT_EQ(box->Text(), u"");
+  EXPECT_TRUE(box->SetRichText(source));
+  EXPECT_EQ(box->Text(), text);
+  box->Select(6, 1);
+  EXPECT_EQ(box->Selection().bold, true);
+}
+
+TEST_F(Controls, OneOptionOfEachGroupIsChecked) {
+  std::vector<std::unique_ptr<platform::OptionButton>> options;
+  std::vector<int> clicks(4);
+  for (int n = 0; n < 4; ++n) {
+    const Rect place{10, 10 + 30 * n, 160, 34 + 30 * n};
+    options.push_back(controls().NewOptionButton(window(), place, u"Auswahl", n == 0 || n == 2));
+    options.back()->events.Click = [&clicks, n] { ++clicks[n]; };
+  }
+  const auto checked = [&] {
+    std::string marks;
+    for (const auto& option : options) marks += option->Checked() ? 'x' : '-';
+    return marks;
+  };
+  EXPECT_EQ(checked(), "----");
+  options[0]->SetChecked(true);
+  options[3]->SetChecked(true);
+  EXPECT_EQ(checked(), "x--x");
+  Click(*options[1]);
+  EXPECT_EQ(checked(), "-x-x");
+  EXPECT_EQ(clicks, (std::vector<int>{1, 1, 0, 1}));
+}
+
+TEST_F(Controls, ACheckBoxTellsOfChangesOnly) {
+  const auto box = controls().NewCheckBox(window(), {10, 10, 160, 34}, u"&Kopie");
+  int clicks = 0;
+  box->events.Click = [&] { ++clicks; };
+  box->SetChecked(false);
+  EXPECT_EQ(clicks, 0);
+  box->SetChecked(true);
+  EXPECT_EQ(clicks, 1);
+  Click(*box);
+  EXPECT_FALSE(box->Checked());
+  box->Focus();
+  PressKey(key::kSpace);
+  EXPECT_TRUE(box->Checked());
+  EXPECT_EQ(clicks, 3);
+}
+
+TEST_F(Controls, ChoicesFollowCodeAndKeys) {
+  const std::unique_ptr<platform::ItemChoice> choices[] = {
+      controls().NewDropDownList(window(), {10, 10, 160, 34}),
+      controls().NewListBox(window(), {10, 50, 160, 150})};
+  for (const auto& choice : choices) {
+    SCOPED_TRACE(choice == choices[0] ? "drop-down list" : "list box");
+    int clicks = 0;
+    choice->events.Click = [&] { ++clicks; };
+    for (const auto* item : {u"Äpfel", u"Birnen", u"Äpfel"}) choice->Add(item);
+    EXPECT_EQ(choice->Count(), 3);
+    EXPECT_EQ(choice->Selected(), -1);
+    choice->Select(1);
+    choice->Select(1);
+    EXPECT_EQ(clicks, 1) << "the same item again is no choice";
+    EXPECT_EQ(choice->Item(2), u"Äpfel") << "in the order of adding, also twice";
+    choice->Focus();
+    PressKey(key::kDown);
+    EXPECT_EQ(choice->Selected(), 2);
+    EXPECT_EQ(clicks, 2);
+    choice->Remove(0);
+    EXPECT_EQ(choice->Selected(), 1);
+    EXPECT_EQ(choice->Item(5), u"");
+    choice->Clear();
+    EXPECT_EQ(choice->Count(), 0);
+    EXPECT_EQ(choice->Selected(), -1);
+    EXPECT_EQ(clicks, 2);
+  }
+}
+
+TEST_F(Controls, ASliderStaysInItsRange) {
+  const auto slider = controls().NewSlider(window(), {10, 10, 210, 44});
+  int changes = 0;
+  slider->events.Change = [&] { ++changes; };
+  slider->SetRange(0, 1000);
+  slider->SetValue(180);
+  EXPECT_EQ(slider->Value(), 180);
+  EXPECT_EQ(changes, 1);
+  slider->SetValue(5000);
+  EXPECT_EQ(slider->Value(), 1000);
+  slider->Focus();
+  PressKey(key::kHome);
+  EXPECT_EQ(slider->Value(), 0);
+  EXPECT_EQ(changes, 3);
+}
+
+TEST_F(Controls, ATreeSortsFillsAndFolds) {
+  const auto tree = controls().NewTreeView(window(), {10, 10, 210, 210});
+  const auto root = tree->Add(0, u"Arbeitsplatz", {});
+  tree->SetSorted(root, true);
+  const auto b = tree->Add(root, u"beta", {});
+  const auto c = tree->Add(root, u"Charlie", {});
+  const auto a = tree->Add(root, u"Alpha", {});
+  EXPECT_EQ(tree->FirstChild(root), a);
+  EXPECT_EQ(tree->Next(a), b);
+  EXPECT_EQ(tree->Next(b), c);
+  EXPECT_EQ(tree->Next(c), 0);
+  EXPECT_EQ(tree->Parent(b), root);
+  EXPECT_EQ(tree->Caption(c), u"Charlie");
+
+  std::vector<platform::TreeNode> opened, closed;
+  platform::TreeNode late = 0;
+  tree->Expanding = [&](platform::TreeNode node) {
+    opened.push_back(node);
+    if (node == root && late == 0) late = tree->Add(root, u"Anton", {});
+  };
+  tree->Collapsed = [&](platform::TreeNode node) { closed.push_back(node); };
+  EXPECT_FALSE(tree->Expanded(root));
+  tree->SetExpanded(root, true);
+  EXPECT_TRUE(tree->Expanded(root));
+  EXPECT_EQ(opened, (std::vector{root}));
+  EXPECT_EQ(tree->Next(a), late) << "children may come while it opens";
+  tree->SetExpanded(root, false);
+  EXPECT_EQ(closed, (std::vector{root}));
+  tree->SetExpanded(b, true);
+  EXPECT_FALSE(tree->Expanded(b)) << "nothing to open without children";
+
+  tree->Select(c);
+  EXPECT_EQ(tree->Selected(), c);
+  EXPECT_TRUE(tree->Expanded(root)) << "a chosen node is shown";
+  tree->Remove(b);
+  EXPECT_EQ(tree->Next(late), c);
+  tree->Clear();
+  EXPECT_EQ(tree->FirstChild(0), 0);
+  const auto again = tree->Add(0, u"neu", {});
+  EXPECT_GT(again, late) << "numbers are never used twice";
+}
+
+TEST_F(Controls, ALabelHasAPressAndAClick) {
+  const auto label = controls().NewLabel(window(), {10, 10, 110, 40}, u"Adresse", {});
+  int presses = 0, clicks = 0;
+  label->MouseDown = [&](Button, const platform::MouseEvent&) { ++presses; };
+  label->events.Click = [&] { ++clicks; };
+  Click(*label);
+  EXPECT_EQ(presses, 1);
+  EXPECT_EQ(clicks, 1);
+}
+
+}  // namespace
+}  // namespace conformance

@@ -1,0 +1,256 @@
+// Registry, files, locale and clipboard.
+#include <algorithm>
+
+#include "platform/files.h"
+#include "platform/locale.h"
+#include "platform/numbers.h"
+#include "platform/registry.h"
+#include "tests/conformance/Conformance.h"
+
+namespace conformance {
+namespace {
+
+using platform::RegistryBytes;
+using platform::RegistryRoot;
+using platform::RegistryValue;
+
+class InRegistry : public Conformance {
+ protected:
+  static constexpr std::u16string_view kKey = u"Software\\Dorvalin Conformance";
+  static constexpr RegistryRoot kUser = RegistryRoot::CurrentUser;
+  ~InRegistry() override {
+    registry().DeleteKey(kUser, u"Software\\Dorvalin Conformance\\Teil");
+    registry().DeleteKey(kUser, kKey);
+  }
+  platform::Registry& registry() { return desktop().registry(); }
+};
+
+TEST_F(InRegistry, ValuesComeOutAsTheyWentIn) {
+  const std::pair<std::u16string, RegistryValue> kValues[] = {
+      {u"Text", u"Größe 5 €"},
+      {u"leer", u""},
+      {u"Zahl", 0xFFFFFFFFu},
+      {u"lang", std::u16string(5000, u'ü')},
+      {u"Bytes", RegistryBytes{std::string("\0\1\xFF", 3)}},
+      {u"", u"der Standardwert"}};
+  for (const auto& [name, value] : kValues) {
+    SCOPED_TRACE(platform::ToUtf8(name));
+    EXPECT_TRUE(registry().Set(kUser, kKey, name, value));
+    EXPECT_EQ(registry().Get(kUser, kKey, name), value);
+  }
+  const auto all = registry().Values(kUser, kKey);
+  ASSERT_TRUE(all);
+  EXPECT_EQ(all->size(), std::size(kValues));
+  EXPECT_TRUE(registry().Set(kUser, kKey, u"TEXT", 1u));
+  EXPECT_EQ(registry().Get(kUser, kKey, u"Text"), RegistryValue(1u))
+      << "names ignore case, and a value changes its type";
+}
+
+TEST_F(InRegistry, WhatIsMissingIsNone) {
+  EXPECT_FALSE(registry().Get(kUser, kKey, u"Text"));
+  EXPECT_FALSE(registry().Keys(kUser, kKey));
+  EXPECT_FALSE(registry().Values(kUser, kKey));
+  EXPECT_FALSE(registry().DeleteValue(kUser, kKey, u"Text"));
+  EXPECT_FALSE(registry().DeleteKey(kUser, kKey));
+  EXPECT_TRUE(registry().Set(kUser, kKey, u"Text", u"da"));
+  EXPECT_FALSE(registry().Get(kUser, kKey, u"anderer"));
+  EXPECT_TRUE(registry().DeleteValue(kUser, kKey, u"Text"));
+  EXPECT_FALSE(registry().Get(kUser, kKey, u"Text"));
+}
+
+TEST_F(InRegistry, AKeyWithSubkeysStays) {
+  EXPECT_TRUE(registry().Set(kUser, u"Software\\Dorvalin Conformance\\Teil", u"x", 1u));
+  EXPECT_EQ(registry().Keys(kUser, kKey), std::vector<std::u16string>{u"Teil"});
+  EXPECT_FALSE(registry().DeleteKey(kUser, kKey));
+  EXPECT_TRUE(registry().DeleteKey(kUser, u"Software\\Dorvalin Conformance\\Teil"));
+  EXPECT_TRUE(registry().DeleteKey(kUser, kKey));
+}
+
+class InFiles : public Conformance {
+ protected:
+  InFiles() { created_ = files().CreateFolder(kFolder); }
+  ~InFiles() override {
+    for (const auto& name : made_) (void)files().Delete(kFolder + u"\\" + name);
+  }
+  void SetUp() override { ASSERT_TRUE(files().Attributes(kFolder)); }
+  platform::Files& files() { return desktop().files(); }
+  std::u16string Path(const std::u16string& name) {
+    made_.push_back(name);
+    return kFolder + u"\\" + name;
+  }
+  std::vector<std::u16string> Names(const std::u16string& pattern) {
+    std::vector<std::u16string> names;
+    for (const auto& entry : files().List(kFolder + u"\\" + pattern)) {
+      if (entry.name != u"." && entry.name != u"..") names.push_back(entry.name);
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+  }
+  const std::u16string kFolder = u"C:\\Dorvalin Conformance";
+
+ private:
+  bool created_;
+  std::vector<std::u16string> made_;
+};
+
+TEST_F(InFiles, BytesComeOutAsTheyWentIn) {
+  const std::string bytes("\0\r\n\x1A\xFFö", 7);
+  EXPECT_EQ(files().Write(Path(u"größe €.dat"), bytes), platform::FileStatus::Done);
+  const auto read = files().Read(kFolder + u"\\GRÖSSE €.DAT");
+  EXPECT_EQ(read.status, platform::FileStatus::CannotOpen) << "ß is no SS";
+  EXPECT_EQ(files().Read(kFolder + u"\\GRößE €.DAT").bytes, bytes);
+  EXPECT_EQ(files().Write(Path(u"größe €.dat"), ""), platform::FileStatus::Done);
+  const auto empty = files().Read(kFolder + u"\\größe €.dat");
+  EXPECT_EQ(empty.status, platform::FileStatus::Done);
+  EXPECT_EQ(empty.bytes, "");
+}
+
+TEST_F(InFiles, WildcardsChooseByName) {
+  for (const auto* name : {u"eins.dvp", u"zwei.DVP", u"drei.txt", u"ohne"}) {
+    ASSERT_EQ(files().Write(Path(name), "x"), platform::FileStatus::Done);
+  }
+  EXPECT_EQ(Names(u"*.dvp"), (std::vector<std::u16string>{u"eins.dvp", u"zwei.DVP"}));
+  EXPECT_EQ(Names(u"*").size(), 4u);
+  EXPECT_EQ(Names(u"*.*").size(), 4u) << "also what has no extension";
+  EXPECT_EQ(Names(u"d?ei.txt").size(), 1u);
+  EXPECT_TRUE(Names(u"*.mp3").empty());
+}
+
+TEST_F(InFiles, EntriesTellWhatTheyAre) {
+  ASSERT_EQ(files().Write(Path(u"datei.txt"), "12345"), platform::FileStatus::Done);
+  const auto list = files().List(kFolder + u"\\datei.txt");
+  ASSERT_EQ(list.size(), 1u);
+  EXPECT_EQ(list[0].size, 5u);
+  EXPECT_FALSE(list[0].IsFolder());
+  EXPECT_EQ(list[0].modified, files().ModifiedTime(kFolder + u"\\datei.txt"));
+  const auto now = desktop().clock().Now();
+  EXPECT_EQ(list[0].modified.year, now.year);
+  EXPECT_EQ(list[0].modified.day, now.day) << "local time";
+  EXPECT_TRUE(*files().Attributes(kFolder) & platform::kAttributeFolder);
+}
+
+TEST_F(InFiles, CopyingReplacesAndDeletingWorksOnce) {
+  ASSERT_EQ(files().Write(Path(u"a.txt"), "neu"), platform::FileStatus::Done);
+  ASSERT_EQ(files().Write(Path(u"b.txt"), "alt"), platform::FileStatus::Done);
+  EXPECT_TRUE(files().Copy(kFolder + u"\\a.txt", kFolder + u"\\b.txt"));
+  EXPECT_EQ(files().Read(kFolder + u"\\b.txt").bytes, "neu");
+  EXPECT_TRUE(files().Delete(kFolder + u"\\a.txt"));
+  EXPECT_FALSE(files().Delete(kFolder + u"\\a.txt"));
+  EXPECT_FALSE(files().Copy(kFolder + u"\\a.txt", kFolder + u"\\b.txt"));
+}
+
+TEST_F(InFiles, WhatIsMissingIsNone) {
+  EXPECT_FALSE(files().Attributes(kFolder + u"\\nichts"));
+  EXPECT_FALSE(files().ModifiedTime(kFolder + u"\\nichts"));
+  EXPECT_EQ(files().Read(kFolder + u"\\nichts").status, platform::FileStatus::CannotOpen);
+  EXPECT_EQ(files().Read(kFolder).status, platform::FileStatus::CannotOpen);
+  EXPECT_EQ(files().Write(kFolder + u"\\kein\\ort.txt", "x"), platform::FileStatus::CannotOpen);
+  EXPECT_TRUE(files().List(kFolder + u"\\kein\\*").empty());
+  EXPECT_FALSE(files().CreateFolder(kFolder)) << "it is there already";
+}
+
+TEST_F(InFiles, TheSystemDriveIsThereAndReady) {
+  const auto drives = files().Drives();
+  const auto c = std::find_if(drives.begin(), drives.end(),
+                              [](const platform::Drive& drive) { return drive.letter == u'C'; });
+  ASSERT_NE(c, drives.end());
+  EXPECT_EQ(c->kind, platform::DriveKind::Fixed);
+  EXPECT_TRUE(c->ready);
+}
+
+class InLocale : public Conformance {
+ protected:
+  platform::Locale& locale() { return desktop().locale(); }
+  const platform::DateTime kWhen{2026, 3, 9, 7, 5, 4, 0};
+};
+
+TEST_F(InLocale, EveryByteComesBackThroughText) {
+  std::string bytes;
+  for (int n = 0; n < 256; ++n) bytes += static_cast<char>(n);
+  const auto text = locale().FromAnsi(bytes);
+  EXPECT_EQ(text.size(), 256u);
+  EXPECT_EQ(locale().ToAnsi(text), bytes);
+  EXPECT_EQ(locale().FromAnsi("\xE4\x80"), u"ä€");
+}
+
+TEST_F(InLocale, WhatThePageLacksBecomesAQuestionMark) {
+  EXPECT_EQ(locale().ToAnsi(u"aЖb"), "a?b");
+  EXPECT_EQ(locale().ToAnsi(u""), "");
+}
+
+TEST_F(InLocale, SpeaksGerman) {
+  EXPECT_EQ(locale().Numbers().decimal, u',');
+  EXPECT_EQ(locale().Numbers().group, u'.');
+  EXPECT_EQ(platform::ToUtf8(locale().ShortDate(kWhen)), "09.03.2026");
+  EXPECT_EQ(platform::ToUtf8(locale().LongDate(kWhen)), "Montag, 9. März 2026");
+  EXPECT_EQ(platform::ToUtf8(locale().LongTime(kWhen)), "07:05:04");
+  EXPECT_EQ(platform::ToUtf8(locale().ShortTime(kWhen)), "07:05");
+}
+
+TEST_F(InLocale, DatePicturesAreFilledIn) {
+  const std::pair<const char16_t*, const char*> kPictures[] = {
+      {u"d.M.yy", "9.3.26"},          {u"dd.MM.yyyy", "09.03.2026"},
+      {u"ddd, d. MMM", "Mo, 9. Mrz"}, {u"dddd, d. MMMM yyyy", "Montag, 9. März 2026"},
+      {u"'am 'd'.'", "am 9."},
+  };
+  for (const auto& [picture, expected] : kPictures) {
+    const auto rendered = platform::ToUtf8(locale().FormatDate(kWhen, picture));
+    // Month names in short differ between the regional data of the systems: "Mrz", "Mär", "März".
+    if (std::string(expected).ends_with("Mrz")) {
+      EXPECT_TRUE(rendered.starts_with("Mo, 9. M")) << rendered;
+    } else {
+      EXPECT_EQ(rendered, expected);
+    }
+  }
+}
+
+class OnClipboard : public Conformance {
+ protected:
+  platform::Clipboard& clipboard() { return desktop().clipboard(); }
+};
+
+TEST_F(OnClipboard, AllFormsAreOfferedAtOnce) {
+  const auto format = clipboard().Register(u"Dorvalin Conformance Format");
+  platform::DataContent content;
+  content.text = u"Größe\r\n5 €";
+  content.richText = "{\\rtf1 Gr\\'f6\\'dfe}";
+  content.files = {u"C:\\Dorvalin Conformance\\ä.txt", u"C:\\"};
+  content.registered[format] = std::string("\0\1\2", 3);
+  content.picture.emplace(platform::Size{3, 2});
+  content.picture->At({2, 1}) = 0x112233;
+  ASSERT_EQ(clipboard().Put(content), platform::ClipboardResult::Done);
+  EXPECT_TRUE(clipboard().OffersText() && clipboard().OffersRichText());
+  EXPECT_TRUE(clipboard().OffersFiles() && clipboard().OffersPicture());
+  EXPECT_TRUE(clipboard().Offers(format));
+  EXPECT_EQ(clipboard().Text(), content.text);
+  EXPECT_EQ(clipboard().RichText(), content.richText);
+  EXPECT_EQ(clipboard().Files(), content.files);
+  EXPECT_EQ(clipboard().Registered(format), content.registered[format]);
+  const auto picture = clipboard().Picture();
+  ASSERT_TRUE(picture);
+  EXPECT_EQ(picture->Size(), (platform::Size{3, 2}));
+  EXPECT_EQ(picture->At({2, 1}) & 0xFFFFFF, 0x112233u);
+}
+
+TEST_F(OnClipboard, ClearingLeavesNothing) {
+  platform::DataContent content;
+  content.text = u"x";
+  ASSERT_EQ(clipboard().Put(content), platform::ClipboardResult::Done);
+  EXPECT_FALSE(clipboard().OffersRichText());
+  EXPECT_FALSE(clipboard().RichText());
+  ASSERT_EQ(clipboard().Clear(), platform::ClipboardResult::Done);
+  EXPECT_FALSE(clipboard().OffersText());
+  EXPECT_FALSE(clipboard().Text());
+  EXPECT_TRUE(clipboard().Files().empty());
+}
+
+TEST_F(OnClipboard, ANameHasOneNumber) {
+  const auto format = clipboard().Register(u"Dorvalin Conformance Format");
+  EXPECT_NE(format, 0u);
+  EXPECT_EQ(clipboard().Register(u"DORVALIN conformance format"), format);
+  EXPECT_NE(clipboard().Register(u"Dorvalin Conformance Format 2"), format);
+  EXPECT_EQ(clipboard().Register(u""), 0u);
+}
+
+}  // namespace
+}  // namespace conformance

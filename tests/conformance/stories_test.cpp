@@ -1,0 +1,312 @@
+// What the program's main roads rest on: activation that comes and goes, pumps within handlers,
+// keys, clipboard and drags into other programs.
+#include "platform/keystrokes.h"
+#include "tests/conformance/Conformance.h"
+
+namespace conformance {
+namespace {
+
+using platform::DropEffect;
+namespace key = platform::key;
+
+class Stories : public Conformance {
+ protected:
+  bool Type(std::u16string_view keys) {
+    const auto strokes = platform::ParseKeystrokes(keys);
+    return strokes && desktop().input().Type(*strokes);
+  }
+};
+
+TEST_F(Stories, AfterTheActiveWindowIsHiddenTheOtherProgramGetsTheKeys) {
+  const auto other = StartOther();
+  Listener listener;
+  const auto wheel = NewWindow(listener, kOurs);
+  const auto host = NewWindow(listener, kOurs);
+  wheel->Show(ShowMode::Activate);
+  host->Show(ShowMode::Activate);
+  ASSERT_TRUE(HasForeground(*host));
+  wheel->SetEnabled(false);
+  host->SetEnabled(false);
+  wheel->Hide();
+  host->Hide();
+  ASSERT_TRUE(OtherHasForeground());
+  EXPECT_TRUE(Type(u"an{ENTER}b"));
+  EXPECT_TRUE(OtherHolds(*other, u"an\r\nb"));
+}
+
+TEST_F(Stories, ShowingWithoutActivationLeavesTheFocusWhereItWas) {
+  const auto other = StartOther();
+  for (const bool topMost : {false, true}) {
+    SCOPED_TRACE(topMost ? "top-most" : "ordinary");
+    Listener listener;
+    const auto window = NewWindow(listener, kOurs);
+    window->SetTopMost(topMost);
+    window->Show(ShowMode::NoActivate);
+    Settle();
+    EXPECT_TRUE(OtherHasForeground());
+    EXPECT_EQ(listener.Count("active"), 0);
+    EXPECT_FALSE(window->HasFocus());
+    EXPECT_EQ(desktop().windows().WindowAt(kOurs.Middle()), window.get());
+    window->Close();
+  }
+  PressKey('X');
+  EXPECT_TRUE(OtherHolds(*other, u"x"));
+}
+
+TEST_F(Stories, ADisabledFormTakesNoClickDuringAPump) {
+  Listener listener;
+  const auto window = NewWindow(listener, kOurs);
+  window->Show(ShowMode::Activate);
+  Settle();
+  window->SetEnabled(false);
+  under().MoveTo(kOurs.Middle());
+  under().Press(Button::Left);
+  under().Release(Button::Left);
+  for (int n = 0; n < 10; ++n) {
+    desktop().pump().DoEvents();
+    under().Pump(10ms);
+  }
+  window->SetEnabled(true);
+  Settle();
+  EXPECT_EQ(listener.Count("left down"), 0);
+  Click(*window);
+  EXPECT_EQ(listener.Count("left down"), 1);
+}
+
+TEST_F(Stories, ATimerTicksInsideAPumpInsideAHandler) {
+  Listener listener;
+  const auto window = NewWindow(listener, kOurs);
+  bool inHandler = false;
+  int ticksInHandler = 0;
+  const auto timer = desktop().pump().NewTimer(10, [&] { ticksInHandler += inHandler ? 1 : 0; });
+  timer->SetEnabled(true);
+  listener.onMouseDown = [&] {
+    inHandler = true;
+    const auto start = desktop().clock().TickCount();
+    while (desktop().clock().TickCount() - start < 100) desktop().pump().DoEvents();
+    inHandler = false;
+  };
+  window->Show(ShowMode::Activate);
+  Settle();
+  Click(*window);
+  EXPECT_GE(ticksInHandler, 3);
+}
+
+class Dialog : public platform::Form {
+ public:
+  Dialog() : Form("Dialog", {}) {}
+  int presses = 0;
+
+ protected:
+  void OnMouseDown(Button, const platform::MouseEvent&) override {
+    ++presses;
+    Unload();
+  }
+};
+
+TEST_F(Stories, AModalFormInsideAMenuHandler) {
+  const auto other = StartOther();
+  auto& forms = platform::TheForms();
+  Dialog* main = forms.Load(std::make_unique<Dialog>());
+  main->Window().SetBounds(kOurs);
+  main->Show();
+  ASSERT_TRUE(HasForeground(main->Window()));
+
+  under().ChooseInMenu(2);
+  const platform::Menu menu{{.id = 11, .caption = u"&Eins"}, {}, {.id = 12, .caption = u"&Zwei"}};
+  const auto chosen =
+      desktop().menus().PopUp(main->Window(), kOurs.Middle(), menu, platform::MenuButtons::Left);
+  ASSERT_EQ(chosen, 12);
+
+  Dialog* dialog = forms.Load(std::make_unique<Dialog>());
+  dialog->Window().SetBounds({100, 300, 300, 400});
+  under().Later(200ms, [this] {
+    under().MoveTo(kOurs.Middle());
+    under().Press(Button::Left);
+    under().Release(Button::Left);
+  });
+  under().Later(400ms, [this] {
+    under().MoveTo({200, 350});
+    under().Press(Button::Left);
+    under().Release(Button::Left);
+  });
+  dialog->ShowModal();
+  EXPECT_EQ(dialog->presses, 1);
+  EXPECT_FALSE(dialog->Loaded());
+  EXPECT_EQ(main->presses, 0) << "a click on the form behind went through";
+  EXPECT_TRUE(HasForeground(main->Window())) << "the activation left the program";
+  forms.Collect();
+  main->Unload();
+  EXPECT_TRUE(OtherHasForeground());
+}
+
+/// Words of all sorts in lines of a width that people write.
+std::u16string LongText(std::size_t units) {
+  static constexpr std::u16string_view kWords[] = {u"größer",  u"als 5 €", u"Straße",  u"\t",
+                                                   u"Übung 😀", u"(a+b)^2", u"{x} ~ y", u"100 %",
+                                                   u"[Ende]",  u"„Ja“"};
+  std::u16string text;
+  std::size_t lineStart = 0;
+  for (std::size_t n = 0; text.size() < units; n = n * 7 + 3) {
+    text += kWords[n % std::size(kWords)];
+    text += std::u16string(1, static_cast<char16_t>(u'a' + n % 26)) + u" ";
+    if (text.size() - lineStart > 60) {
+      text += u"\r\n";
+      lineStart = text.size();
+    }
+  }
+  return text;
+}
+
+std::vector<platform::KeyStroke> StrokesFor(const std::u16string& text) {
+  std::vector<platform::KeyStroke> strokes;
+  for (char16_t unit : text) {
+    if (unit == u'\n') continue;
+    const bool named = unit == u'\r' || unit == u'\t';
+    strokes.push_back({named ? char16_t{0} : unit, named ? int{unit} : 0, {}, 1});
+  }
+  return strokes;
+}
+
+TEST_F(Stories, ALongTextIsTypedWithoutLossOrDisorder) {
+  const auto other = StartOther();
+  ASSERT_TRUE(OtherHasForeground());
+  const std::u16string text = LongText(20'000);
+  ASSERT_TRUE(desktop().input().Type(StrokesFor(text)));
+  EXPECT_TRUE(Until([&] { return other->Text().size() >= text.size(); }, 60s));
+  const std::u16string arrived = other->Text();
+  const auto differs = std::mismatch(text.begin(), text.end(), arrived.begin(), arrived.end());
+  EXPECT_EQ(differs.first, text.end()) << "differs at " << differs.first - text.begin();
+  EXPECT_EQ(arrived.size(), text.size());
+}
+
+TEST_F(Stories, RichTextIsPastedWithItsBoldStillBold) {
+  const auto other = StartOther();
+  platform::DataContent content;
+  content.text = u"sehr wichtig";
+  content.richText = R"({\rtf1\ansi\ansicpg1252 sehr \b wichtig\b0\par})";
+  ASSERT_EQ(desktop().clipboard().Put(content), platform::ClipboardResult::Done);
+  ASSERT_TRUE(OtherHasForeground());
+  EXPECT_TRUE(Type(u"^v"));
+  EXPECT_TRUE(Until([&] { return other->Text().starts_with(u"sehr wichtig"); }));
+  const auto bold = other->BoldRanges();
+  ASSERT_EQ(bold.size(), 1u);
+  EXPECT_EQ(bold[0].first, 5);
+  EXPECT_GE(bold[0].second, 12);
+}
+
+/// A pane of ours that a drag starts from as soon as the pointer moves with the button held.
+class DragSource {
+ public:
+  DragSource(TopWindow& window, Listener& listener, platform::DataContent content)
+      : content_(std::move(content)) {
+    listener.onMouseMove = [this, &window, &listener] {
+      if (!listener.lastMouse.left || done) return;
+      done = true;
+      effect = window.Drag(content_, DropEffect::Copy, nullptr);
+      ended = true;
+    };
+  }
+  bool done = false;
+  bool ended = false;
+  DropEffect effect = DropEffect::None;
+
+ private:
+  platform::DataContent content_;
+};
+
+TEST_F(Stories, ARegisteredFormatIsDraggedBetweenTwoOfOurWindows) {
+  const auto format = desktop().clipboard().Register(u"Dorvalin Conformance Format");
+  ASSERT_NE(format, 0u);
+  Listener from, to;
+  const auto source = NewWindow(from, kOurs);
+  const auto target = NewWindow(to, {300, 60, 400, 220});
+  std::optional<std::string> dropped;
+  to.dropEffect = DropEffect::Copy;
+  to.onDrop = [&](const platform::DragEvent& event) {
+    dropped = event.data->Registered(format);
+    return DropEffect::Copy;
+  };
+  target->SetAcceptsDrops(true);
+  source->Show(ShowMode::Activate);
+  target->Show(ShowMode::NoActivate);
+  platform::DataContent content;
+  content.registered[format] = std::string("\x01\x00\xFF", 3);
+  DragSource drag(*source, from, std::move(content));
+  Settle();
+  PlanDrag(kOurs.Middle(), {350, 140});
+  ASSERT_TRUE(Until([&] { return drag.ended; }));
+  EXPECT_EQ(drag.effect, DropEffect::Copy);
+  ASSERT_TRUE(dropped);
+  EXPECT_EQ(*dropped, std::string("\x01\x00\xFF", 3));
+  ASSERT_GE(to.log.size(), 2u);
+  EXPECT_EQ(to.Count("enter"), 1);
+  EXPECT_EQ(to.Count("leave"), 0);
+  EXPECT_EQ(to.log.back(), "drop");
+  EXPECT_EQ(from.Count("left up"), 0) << "the drag takes the release";
+}
+
+TEST_F(Stories, ADragThatIsTakenNowhereLeavesAgain) {
+  Listener from, to;
+  const auto source = NewWindow(from, kOurs);
+  const auto target = NewWindow(to, {300, 60, 400, 220});
+  to.dropEffect = DropEffect::None;
+  target->SetAcceptsDrops(true);
+  source->Show(ShowMode::Activate);
+  target->Show(ShowMode::NoActivate);
+  platform::DataContent content;
+  content.text = u"x";
+  DragSource drag(*source, from, std::move(content));
+  Settle();
+  PlanDrag(kOurs.Middle(), {350, 140});
+  ASSERT_TRUE(Until([&] { return drag.ended; }));
+  EXPECT_EQ(drag.effect, DropEffect::None);
+  EXPECT_EQ(to.Count("drop"), 0);
+  EXPECT_EQ(to.Count("leave"), 1);
+}
+
+TEST_F(Stories, TextIsDraggedOutIntoAnotherProgram) {
+  const auto other = StartOther();
+  Listener from;
+  const auto source = NewWindow(from, kOurs);
+  source->Show(ShowMode::NoActivate);
+  platform::DataContent content;
+  content.text = u"Größe";
+  DragSource drag(*source, from, std::move(content));
+  Settle();
+  PlanDrag(kOurs.Middle(), other->Area().Middle());
+  ASSERT_TRUE(Until([&] { return drag.ended; }));
+  EXPECT_EQ(drag.effect, DropEffect::Copy);
+  EXPECT_TRUE(OtherHolds(*other, u"Größe"));
+}
+
+TEST_F(Stories, TheScreenShowsOthersAndNotOurWindowThatStandsAside) {
+  const auto other = StartOther();
+  Listener listener;
+  const auto window = NewWindow(listener, Rect{0, -200, 200, -40});
+  platform::FillRect(window->Canvas(), window->Canvas().Area(), 0x2010F0);
+  window->Refresh();
+  window->Show(ShowMode::NoActivate);
+  Settle();
+  const Rect inside = other->Area().Grown(-60);
+  const auto colourAt = [&](Point p) {
+    return desktop().screen().ColourAt(p).value_or(0x123456) & 0xFFFFFF;
+  };
+  EXPECT_EQ(colourAt(inside.Middle()), 0xFFFFFFu) << "the paper of the other program";
+  const auto captured = desktop().screen().Capture(inside);
+  ASSERT_TRUE(captured);
+  EXPECT_EQ(captured->Size(), inside.Size());
+  EXPECT_EQ(captured->At({inside.Width() / 2, inside.Height() / 2}) & 0xFFFFFF, 0xFFFFFFu);
+
+  window->SetBounds(Rect::At(inside.Origin(), {200, 160}));
+  EXPECT_TRUE(Until([&] {
+    return colourAt(inside.Origin() + Point{5, 5}) == 0x2010F0;
+  })) << "our own window in its place";
+  window->Hide();
+  EXPECT_TRUE(Until([&] {
+    return colourAt(inside.Origin() + Point{5, 5}) != 0x2010F0;
+  })) << "a hidden window still shows";
+}
+
+}  // namespace
+}  // namespace conformance

@@ -1,0 +1,181 @@
+// Windows under test. The other program is the small one beside this suite (target.cpp); the hands
+// put their events where those of the devices arrive, so that nobody can tell them apart. Real
+// events of a display are the end-to-end tests' business.
+#include <atomic>
+#include <deque>
+#include <fstream>
+#include <iterator>
+#include <mutex>
+#include <thread>
+
+#include "platform/pump.h"
+#include "platform/text.h"
+#include "platform/win32/WindowsDesktop.h"
+#include "platform/win32/wide.h"
+#include "platform/win32/win.h"
+#include "tests/conformance/DesktopUnderTest.h"
+#include "tests/conformance/win32/TargetState.h"
+
+namespace conformance {
+namespace {
+
+using std::chrono::milliseconds;
+using Clock = std::chrono::steady_clock;
+
+void Send(INPUT input) { ::SendInput(1, &input, sizeof(input)); }
+
+void SendKey(int virtualKey, DWORD flags) {
+  INPUT input{};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = static_cast<WORD>(virtualKey);
+  input.ki.wScan = static_cast<WORD>(::MapVirtualKeyW(virtualKey, MAPVK_VK_TO_VSC));
+  input.ki.dwFlags = flags;
+  Send(input);
+}
+
+void SendButton(DWORD flags) {
+  INPUT input{};
+  input.type = INPUT_MOUSE;
+  input.mi.dwFlags = flags;
+  Send(input);
+}
+
+/// Does what is planned, from a thread of its own: nested loops of the system do not hold it up.
+class Planner {
+ public:
+  ~Planner() {
+    ending_ = true;
+    thread_.join();
+  }
+  void Add(milliseconds delay, std::function<void()> act) {
+    const std::lock_guard lock(mutex_);
+    acts_.emplace_back(Clock::now() + delay, std::move(act));
+  }
+
+ private:
+  void Run() {
+    while (!ending_) {
+      if (const auto act = TakeDue()) act();
+      std::this_thread::sleep_for(milliseconds(2));
+    }
+  }
+  std::function<void()> TakeDue() {
+    const std::lock_guard lock(mutex_);
+    const auto due = std::find_if(acts_.begin(), acts_.end(), [](const auto& planned) {
+      return planned.first <= Clock::now();
+    });
+    if (due == acts_.end()) return nullptr;
+    auto act = std::move(due->second);
+    acts_.erase(due);
+    return act;
+  }
+
+  std::mutex mutex_;
+  std::deque<std::pair<Clock::time_point, std::function<void()>>> acts_;
+  std::atomic<bool> ending_ = false;
+  std::thread thread_{[this] { Run(); }};
+};
+
+/// The folder of this program, where the target lies too.
+std::wstring OwnFolder() {
+  wchar_t path[MAX_PATH] = {};
+  ::GetModuleFileNameW(nullptr, path, MAX_PATH);
+  const std::wstring whole = path;
+  return whole.substr(0, whole.rfind(L'\\') + 1);
+}
+
+class TargetProgram final : public OtherProgram {
+ public:
+  TargetProgram(const Rect& place, const std::function<void(milliseconds)>& pump) : place_(place) {
+    statePath_ = OwnFolder() + L"target-" + std::to_wstring(::GetCurrentProcessId()) + L"-" +
+                 std::to_wstring(++started_) + L".state";
+    std::wstring command = L"\"" + OwnFolder() + L"conformance_target.exe\" " +
+                           std::to_wstring(place.left) + L" " + std::to_wstring(place.top) + L" " +
+                           std::to_wstring(place.right) + L" " + std::to_wstring(place.bottom) +
+                           L" \"" + statePath_ + L"\"";
+    STARTUPINFOW startup{};
+    startup.cb = sizeof(startup);
+    ::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                     &startup, &process_);
+    const auto isThere = [&] { return HasForeground() && ReadState(statePath_).has_value(); };
+    for (int n = 0; n < 500 && !isThere(); ++n) pump(milliseconds(20));
+  }
+  ~TargetProgram() override {
+    ::TerminateProcess(process_.hProcess, 0);
+    ::WaitForSingleObject(process_.hProcess, 5000);
+    ::CloseHandle(process_.hThread);
+    ::CloseHandle(process_.hProcess);
+    ::DeleteFileW(statePath_.c_str());
+  }
+  Rect Area() override { return place_; }
+  std::u16string Text() override { return State().text; }
+  std::vector<std::pair<int, int>> BoldRanges() override { return State().boldRanges; }
+
+ private:
+  TargetState State() const { return ReadState(statePath_).value_or(TargetState{}); }
+  bool HasForeground() const {
+    DWORD process = 0;
+    ::GetWindowThreadProcessId(::GetForegroundWindow(), &process);
+    return process == process_.dwProcessId;
+  }
+
+  inline static int started_ = 0;
+  Rect place_;
+  std::wstring statePath_;
+  PROCESS_INFORMATION process_{};
+};
+
+class WindowsUnderTest final : public DesktopUnderTest {
+ public:
+  platform::Desktop& desktop() override { return desktop_; }
+  std::unique_ptr<OtherProgram> Start(const Rect& place) override {
+    return std::make_unique<TargetProgram>(place, [this](milliseconds time) { Pump(time); });
+  }
+  void MoveTo(Point p) override { ::SetCursorPos(p.x, p.y); }
+  void Press(Button button) override {
+    SendButton(button == Button::Left    ? MOUSEEVENTF_LEFTDOWN
+               : button == Button::Right ? MOUSEEVENTF_RIGHTDOWN
+                                         : MOUSEEVENTF_MIDDLEDOWN);
+  }
+  void Release(Button button) override {
+    SendButton(button == Button::Left    ? MOUSEEVENTF_LEFTUP
+               : button == Button::Right ? MOUSEEVENTF_RIGHTUP
+                                         : MOUSEEVENTF_MIDDLEUP);
+  }
+  void KeyDown(int virtualKey) override { SendKey(virtualKey, 0); }
+  void KeyUp(int virtualKey) override { SendKey(virtualKey, KEYEVENTF_KEYUP); }
+  void Later(milliseconds delay, std::function<void()> act) override {
+    planner_.Add(delay, std::move(act));
+  }
+  void ChooseInMenu(int place) override {
+    auto at = milliseconds(300);
+    for (int n = 0; n <= place; ++n, at += milliseconds(50)) {
+      const int key = n < place ? VK_DOWN : VK_RETURN;
+      planner_.Add(at, [this, key] {
+        KeyDown(key);
+        KeyUp(key);
+      });
+    }
+  }
+  void Pump(milliseconds time) override {
+    const auto end = Clock::now() + time;
+    do {
+      desktop_.pump().DoEvents();
+      ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 2, QS_ALLINPUT);
+    } while (Clock::now() < end);
+  }
+
+ private:
+  platform::WindowsDesktop desktop_;
+  Planner planner_;
+};
+
+}  // namespace
+
+std::unique_ptr<DesktopUnderTest> NewDesktopUnderTest() {
+  // The pointer of the test before is not to touch the windows of this one.
+  ::SetCursorPos(1000, 700);
+  return std::make_unique<WindowsUnderTest>();
+}
+
+}  // namespace conformance

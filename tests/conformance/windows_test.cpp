@@ -1,0 +1,278 @@
+// Windows, pointer and keyboard.
+#include "platform/drawing.h"
+#include "tests/conformance/Conformance.h"
+
+namespace conformance {
+namespace {
+
+namespace key = platform::key;
+using Log = std::vector<std::string>;
+
+class Windows : public Conformance {
+ protected:
+  std::unique_ptr<platform::Pane> NewPane(platform::Pane& parent, const Rect& bounds,
+                                          Listener& listener, bool focusable = false) {
+    return desktop().windows().NewPane(parent, bounds, focusable, listener);
+  }
+};
+
+TEST_F(Windows, AnEllipseLimitsWhatIsSeenAndClicked) {
+  Listener behind, round;
+  const auto back = NewWindow(behind, kOurs);
+  const auto front = NewWindow(round, kOurs);
+  back->Show(ShowMode::Activate);
+  front->Show(ShowMode::Activate);
+  ASSERT_TRUE(front->SetEllipseRegion(Rect::At({0, 0}, kOurs.Size())));
+  Settle();
+  const Point corner = kOurs.Origin() + Point{4, 4};
+  EXPECT_EQ(desktop().windows().WindowAt(corner), back.get());
+  EXPECT_EQ(desktop().windows().WindowAt(kOurs.Middle()), front.get());
+  Click(corner);
+  EXPECT_EQ(behind.Count("left down"), 1);
+  EXPECT_EQ(round.Count("left down"), 0);
+  ASSERT_TRUE(front->SetEllipseRegion(std::nullopt));
+  front->Show(ShowMode::Activate);
+  Settle();
+  EXPECT_EQ(desktop().windows().WindowAt(corner), front.get());
+}
+
+TEST_F(Windows, APressKeepsThePointerUntilTheRelease) {
+  Listener listener, other;
+  const auto window = NewWindow(listener, kOurs);
+  const auto beside = NewWindow(other, {300, 60, 400, 220});
+  beside->Show(ShowMode::NoActivate);
+  window->Show(ShowMode::Activate);
+  Settle();
+  under().MoveTo(kOurs.Middle());
+  under().Press(Button::Left);
+  Settle();
+  under().MoveTo({350, 140});
+  Settle();
+  EXPECT_EQ(listener.lastMouse.at, (Point{350, 140} - kOurs.Origin()));
+  EXPECT_TRUE(listener.lastMouse.left);
+  under().Release(Button::Left);
+  Settle();
+  EXPECT_EQ(listener.Count("left up"), 1);
+  EXPECT_EQ(other.Count("left up"), 0);
+}
+
+TEST_F(Windows, AnEndedCaptureLeavesTheReleaseToTheWindowUnderThePointer) {
+  Listener listener, other;
+  const auto window = NewWindow(listener, kOurs);
+  const auto beside = NewWindow(other, {300, 60, 400, 220});
+  beside->Show(ShowMode::NoActivate);
+  window->Show(ShowMode::Activate);
+  listener.onMouseDown = [&] { window->ReleaseCapture(); };
+  Settle();
+  under().MoveTo(kOurs.Middle());
+  under().Press(Button::Left);
+  Settle();
+  under().MoveTo({350, 140});
+  under().Release(Button::Left);
+  Settle();
+  EXPECT_EQ(listener.Count("left up"), 0);
+  EXPECT_EQ(other.Count("left up"), 1);
+}
+
+TEST_F(Windows, TheSecondPressOfADoubleClickIsOne) {
+  Listener listener;
+  const auto window = NewWindow(listener, kOurs);
+  window->Show(ShowMode::Activate);
+  Settle();
+  listener.log.clear();
+  under().MoveTo(kOurs.Middle());
+  for (int n = 0; n < 3; ++n) {
+    under().Press(Button::Left);
+    under().Release(Button::Left);
+  }
+  Settle();
+  EXPECT_EQ(listener.log,
+            (Log{"left down", "left up", "left double", "left up", "left down", "left up"}));
+}
+
+TEST_F(Windows, TheInnermostVisibleWindowIsUnderThePoint) {
+  Listener listener, outer, inner;
+  const auto window = NewWindow(listener, kOurs);
+  const auto pane = NewPane(*window, {10, 10, 110, 110}, outer);
+  const auto child = NewPane(*pane, {20, 20, 60, 60}, inner);
+  window->Show(ShowMode::Activate);
+  Settle();
+  const Point p = kOurs.Origin() + Point{35, 35};
+  EXPECT_EQ(child->ScreenBounds(), (Rect{90, 90, 130, 130}));
+  EXPECT_EQ(desktop().windows().WindowAt(p), child.get());
+  child->SetVisible(false);
+  EXPECT_EQ(desktop().windows().WindowAt(p), pane.get());
+  pane->SetVisible(false);
+  EXPECT_EQ(desktop().windows().WindowAt(p), window.get());
+  window->Hide();
+  Settle();
+  EXPECT_EQ(desktop().windows().WindowAt(p), nullptr);
+}
+
+TEST_F(Windows, BeingSeenIsToldToAllWhoAreSeenWithIt) {
+  Listener listener, outer, inner;
+  const auto window = NewWindow(listener, kOurs);
+  const auto pane = NewPane(*window, {10, 10, 110, 110}, outer);
+  const auto child = NewPane(*pane, {20, 20, 60, 60}, inner);
+  child->SetVisible(false);
+  EXPECT_TRUE(inner.log.empty()) << "it was not seen before either";
+  window->Show(ShowMode::NoActivate);
+  Settle();
+  EXPECT_EQ(listener.Count("seen"), 1);
+  EXPECT_EQ(outer.Count("seen"), 1);
+  EXPECT_EQ(inner.Count("seen"), 0);
+  child->SetVisible(true);
+  EXPECT_EQ(inner.Count("seen"), 1);
+  pane->SetVisible(false);
+  EXPECT_EQ(outer.Count("gone"), 1);
+  EXPECT_EQ(inner.Count("gone"), 1);
+  EXPECT_TRUE(child->Visible()) << "its own flag stays";
+  window->Hide();
+  EXPECT_EQ(listener.Count("gone"), 1);
+  EXPECT_EQ(outer.Count("gone"), 1);
+}
+
+TEST_F(Windows, TheCanvasFollowsTheSizeAndKeepsItsContent) {
+  Listener listener, inside;
+  const auto window = NewWindow(listener, kOurs);
+  const auto pane = NewPane(*window, {0, 0, 40, 30}, inside);
+  platform::FillRect(pane->Canvas(), pane->Canvas().Area(), 0x0000FF);
+  pane->SetBounds({5, 5, 65, 25});
+  EXPECT_EQ(inside.Count("resize"), 1);
+  EXPECT_EQ(pane->Canvas().Size(), (platform::Size{60, 20}));
+  EXPECT_EQ(pane->Canvas().At({39, 19}) & 0xFFFFFF, 0xFF0000u);
+  EXPECT_EQ(pane->Canvas().At({40, 19}) & 0xFFFFFF, 0u);
+  pane->SetBounds({9, 9, 69, 29});
+  EXPECT_EQ(inside.Count("resize"), 1) << "a move is no resize";
+  pane->SetBounds({9, 9, 9, 9});
+  EXPECT_TRUE(pane->Canvas().Empty());
+}
+
+TEST_F(Windows, AFrameLeavesTheClientAreaItsSize) {
+  Listener listener, inside;
+  const auto window = desktop().windows().NewTopWindow(
+      {.frame = platform::FrameStyle::Dialog, .caption = u"Dialog"}, listener);
+  window->SetBounds(kOurs);
+  window->SetClientSize({200, 100});
+  EXPECT_EQ(window->ClientSize(), (platform::Size{200, 100}));
+  EXPECT_EQ(window->Bounds().Origin(), kOurs.Origin());
+  EXPECT_GT(window->Bounds().Height(), 100);
+  EXPECT_EQ(window->Canvas().Size(), window->ClientSize());
+  const auto pane = NewPane(*window, {0, 0, 10, 10}, inside);
+  EXPECT_GT(pane->ScreenBounds().top, window->Bounds().top) << "below the title bar";
+}
+
+TEST_F(Windows, APressGivesTheKeyboardToThoseThatTakeIt) {
+  Listener listener, taking, plain;
+  const auto window = NewWindow(listener, kOurs);
+  const auto field = NewPane(*window, {0, 0, 50, 50}, taking, true);
+  const auto button = NewPane(*window, {60, 0, 110, 50}, plain, false);
+  window->Show(ShowMode::Activate);
+  ASSERT_TRUE(HasForeground(*window));
+  EXPECT_TRUE(window->HasFocus());
+  Click(*field);
+  EXPECT_TRUE(field->HasFocus());
+  EXPECT_EQ(taking.Count("focus"), 1);
+  Click(*button);
+  EXPECT_TRUE(field->HasFocus());
+  PressKey('B');
+  EXPECT_EQ(taking.Count("key 66"), 1);
+  EXPECT_EQ(taking.typed, u"b");
+  field->SetVisible(false);
+  EXPECT_FALSE(field->HasFocus());
+  field->Focus();
+  EXPECT_FALSE(field->HasFocus()) << "what is not seen gets no keyboard";
+}
+
+class PreviewListener : public Listener {
+ public:
+  int taken = 0;
+  std::vector<std::pair<int, platform::Window*>> previewed;
+  void OnPreviewKey(platform::KeyEvent& event, platform::Window* focused) override {
+    previewed.emplace_back(event.virtualKey, focused);
+    event.handled = event.virtualKey == taken;
+  }
+};
+
+TEST_F(Windows, TheWindowSeesKeysBeforeItsChildren) {
+  PreviewListener listener;
+  Listener child;
+  const auto window = NewWindow(listener, kOurs);
+  const auto field = NewPane(*window, {0, 0, 50, 50}, child, true);
+  listener.taken = 'Q';
+  window->Show(ShowMode::Activate);
+  ASSERT_TRUE(HasForeground(*window));
+  PressKey(key::kF2);
+  field->Focus();
+  PressKey('Q');
+  PressKey('W');
+  const std::vector<std::pair<int, platform::Window*>> expected{
+      {key::kF2, nullptr}, {'Q', field.get()}, {'W', field.get()}};
+  EXPECT_EQ(listener.previewed, expected);
+  EXPECT_EQ(child.Count("key 81"), 0);
+  EXPECT_EQ(child.Count("key 87"), 1);
+  EXPECT_EQ(child.typed, u"w") << "a key that is taken types nothing";
+}
+
+TEST_F(Windows, TopMostWindowsAndOwnedOnesStandInFront) {
+  Listener listener;
+  const auto bar = NewWindow(listener, {60, 60, 160, 160});
+  const auto plain = NewWindow(listener, {60, 60, 160, 160});
+  const auto owned = NewWindow(listener, {100, 100, 140, 140}, plain.get());
+  const Point edge{70, 70}, middle{120, 120};
+  const auto at = [&](Point p) { return desktop().windows().WindowAt(p); };
+  bar->SetTopMost(true);
+  bar->Show(ShowMode::NoActivate);
+  plain->Show(ShowMode::Activate);
+  owned->Show(ShowMode::NoActivate);
+  Settle();
+  EXPECT_EQ(at(edge), bar.get());
+  bar->SetTopMost(false);
+  plain->Show(ShowMode::Activate);
+  Settle();
+  EXPECT_EQ(at(edge), plain.get());
+  EXPECT_EQ(at(middle), owned.get());
+}
+
+TEST_F(Windows, ClosedWindowsAreHusks) {
+  Listener listener, inside;
+  const auto window = NewWindow(listener, kOurs);
+  const auto pane = NewPane(*window, {0, 0, 50, 50}, inside, true);
+  const auto box = desktop().controls().NewTextBox(*window, {0, 60, 50, 80}, {});
+  window->Show(ShowMode::Activate);
+  window->Close();
+  window->Close();
+  window->Show(ShowMode::Activate);
+  window->SetBounds({1, 2, 3, 4});
+  pane->Focus();
+  pane->Refresh();
+  box->SetText(u"x");
+  Settle();
+  EXPECT_FALSE(window->Visible());
+  EXPECT_FALSE(pane->HasFocus());
+  EXPECT_EQ(box->Text(), u"");
+  EXPECT_NE(desktop().windows().WindowAt(kOurs.Middle()), window.get());
+}
+
+TEST_F(Windows, TimersTickWhileSomebodyPumpsAndEndInTheirOwnTick) {
+  int ticks = 0, once = 0;
+  const auto timer = desktop().pump().NewTimer(20, [&] { ++ticks; });
+  under().Pump(100ms);
+  EXPECT_EQ(ticks, 0) << "a new timer rests";
+  std::unique_ptr<platform::Timer> single;
+  single = desktop().pump().NewTimer(10, [&] {
+    ++once;
+    single.reset();
+  });
+  single->SetEnabled(true);
+  timer->SetEnabled(true);
+  EXPECT_TRUE(Until([&] { return ticks >= 3; }));
+  timer->SetEnabled(false);
+  const int counted = ticks;
+  under().Pump(100ms);
+  EXPECT_EQ(ticks, counted);
+  EXPECT_EQ(once, 1);
+}
+
+}  // namespace
+}  // namespace conformance
