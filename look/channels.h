@@ -17,7 +17,7 @@ inline std::uint8_t Mix(std::uint8_t a, std::uint8_t b, std::uint8_t weight) {
   return MixByte(a, b, weight);
 }
 inline std::uint8_t Scaled(std::uint8_t weight, std::uint8_t by) { return ScaleByte(weight, by); }
-inline std::uint8_t Inverted(std::uint8_t weight) { return static_cast<std::uint8_t>(~weight); }
+inline std::uint8_t InvertedMask(std::uint8_t mask) { return static_cast<std::uint8_t>(~mask); }
 
 #ifdef __SSE2__
 
@@ -32,6 +32,10 @@ inline EightChannels DividedBy255(__m128i valueAndOne) {
 }
 inline EightChannels Inverted(EightChannels weight) {
   return {_mm_xor_si128(weight.lanes, _mm_set1_epi16(255))};
+}
+/// The top bytes stay without weight.
+inline EightChannels InvertedMask(EightChannels mask) {
+  return {_mm_xor_si128(mask.lanes, _mm_set1_epi64x(0x000000FF00FF00FF))};
 }
 inline EightChannels Mix(EightChannels a, EightChannels b, EightChannels weight) {
   // The one is added to the part that is the same for all pixels when a colour is mixed in.

@@ -12,7 +12,8 @@ using platform::Point;
 using platform::Rect;
 using platform::Surface;
 
-constexpr Pixel kTopByte = 0xFF000000;
+/// The top byte weighs nothing, so that it comes from b.
+constexpr Pixel kChannels = 0x00FFFFFF;
 
 /// A source that is the same colour everywhere.
 class Flat {
@@ -79,12 +80,12 @@ struct ScaledBy {
 };
 struct InvertedAndScaledBy {
   std::uint8_t alpha;
-  auto operator()(auto mask) const { return Scaled(Inverted(mask), alpha); }
+  auto operator()(auto mask) const { return Scaled(InvertedMask(mask), alpha); }
 };
 
 template <typename Weight>
-Pixel MixPixel(Pixel former, Pixel a, Pixel b, Pixel mask, Weight weight) {
-  Pixel mixed = former & kTopByte;
+Pixel MixPixel(Pixel a, Pixel b, Pixel mask, Weight weight) {
+  Pixel mixed = b & ~kChannels;
   for (int shift = 0; shift < 24; shift += 8) {
     const auto channel = [shift](Pixel p) { return static_cast<std::uint8_t>(p >> shift); };
     mixed |= Pixel{Mix(channel(a), channel(b), weight(channel(mask)))} << shift;
@@ -96,18 +97,17 @@ template <typename A, typename B, typename M, typename Weight>
 void MixRow(Pixel* out, int count, const A& a, const B& b, const M& mask, Weight weight) {
   int i = 0;
 #ifdef __SSE2__
-  const __m128i topByte = _mm_set1_epi32(static_cast<int>(kTopByte));
+  const __m128i channels = _mm_set1_epi32(static_cast<int>(kChannels));
   for (; i + 4 <= count; i += 4) {
     const __m128i fourA = a.FourAt(i);
     const __m128i fourB = b.FourAt(i);
-    const __m128i fourMask = mask.FourAt(i);
+    const __m128i fourMask = _mm_and_si128(mask.FourAt(i), channels);
     const auto low = Mix(LowPixels(fourA), LowPixels(fourB), weight(LowPixels(fourMask)));
     const auto high = Mix(HighPixels(fourA), HighPixels(fourB), weight(HighPixels(fourMask)));
-    StoreFour(out + i, _mm_or_si128(_mm_and_si128(topByte, LoadFour(out + i)),
-                                    _mm_andnot_si128(topByte, FourPixels(low, high))));
+    StoreFour(out + i, FourPixels(low, high));
   }
 #endif
-  for (; i < count; ++i) out[i] = MixPixel(out[i], a.At(i), b.At(i), mask.At(i), weight);
+  for (; i < count; ++i) out[i] = MixPixel(a.At(i), b.At(i), mask.At(i), weight);
 }
 
 template <typename A, typename B, typename M, typename Weight>

@@ -1,9 +1,9 @@
 // Soft mixing of pixels: sprites with soft edges, tints and coloured masks.
 //
-// Each routine mixes the three channels by themselves and leaves the top byte of the destination's
-// pixels. It returns false, with nothing drawn, on a screen of other than 16, 24 or 32 bits. What
-// lies outside the destination or one of the sources is left alone. Sources may be the destination
-// itself: they are taken as they were before.
+// Each routine mixes the three channels by themselves; the top byte, which carries nothing, is the
+// background's, or 0 where there is none. It returns false, with nothing drawn, on a screen of
+// other than 16, 24 or 32 bits. What lies outside the destination or one of the sources is left
+// alone. Sources may be the destination itself: they are taken as they were before.
 #pragma once
 
 #include <cstdint>

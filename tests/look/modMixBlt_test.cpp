@@ -127,7 +127,7 @@ TEST_F(Mixing, AgreesWithThePlainFormulaWhereverItIsDrawn) {
         Pixel expected = before.At({x, y});
         if (area.Contains(Point{x, y}) && !missing(reads[0], sheet, source) &&
             !missing(reads[1], backgroundBefore, behind) && !missing(reads[2], sheet, mask)) {
-          expected &= 0xFF000000;
+          expected = reads[1] ? backgroundBefore.At(behind + in) & 0xFF000000 : 0;
           for (int shift = 0; shift < 24; shift += 8) {
             const auto of = [&](bool read, const Surface& surface, Point at) {
               return read ? Channel(surface.At(at + in), shift) : 0;
