@@ -37,6 +37,13 @@ void CopyCanvas(HDC to, const Surface& canvas, Point from) {
 
 }  // namespace
 
+bool PaneWindow::Make(const WindowMaking& making) {
+  making_ = true;
+  const bool made = NativeWindow::Make(making);
+  making_ = false;
+  return made;
+}
+
 void PaneWindow::Refresh() {
   if (!Handle() || canvas_.Empty()) return;
   {
@@ -183,7 +190,8 @@ LRESULT PaneWindow::Resize() {
   if (!canvas_.Empty()) BitBlt(fresh, canvas_.Area(), canvas_, {0, 0}, RasterOp::SrcCopy);
   canvas_ = std::move(fresh);
   ::InvalidateRect(Handle(), nullptr, FALSE);
-  events_.OnResize();
+  // The first size is no change, and the events' owner does not have the window yet.
+  if (!making_) events_.OnResize();
   return 0;
 }
 
@@ -245,10 +253,10 @@ void PaneWindow::PaintBehind(HWND child, HDC dc) const {
 }
 
 bool Win32Pane::Make(HWND parent, const Rect& bounds) {
-  return NativeWindow::Make({.className = kWindowClass,
-                             .style = WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS,
-                             .bounds = bounds,
-                             .parent = parent});
+  return PaneWindow::Make({.className = kWindowClass,
+                           .style = WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS,
+                           .bounds = bounds,
+                           .parent = parent});
 }
 
 }  // namespace platform

@@ -23,6 +23,7 @@ class PaneWindow : public NativeWindow {
   void PaintBehind(HWND child, HDC dc) const;
 
  protected:
+  bool Make(const WindowMaking& making);
   void OnSeen(bool seen) override { events_.OnVisible(seen); }
 
  private:
@@ -42,6 +43,7 @@ class PaneWindow : public NativeWindow {
   PaneEvents& events_;
   bool focusable_;
   Surface canvas_;
+  bool making_ = false;
   Pointer pointer_;
   unsigned held_ = 0;  // a bit for each button pressed here
   DropRegistration drops_;

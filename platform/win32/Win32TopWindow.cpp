@@ -53,11 +53,11 @@ Win32TopWindow::Win32TopWindow(TopWindowEvents& events)
 
 bool Win32TopWindow::Make(const TopWindowOptions& options) {
   const Frame frame = FrameOf(options);
-  const bool made = NativeWindow::Make({.className = kWindowClass,
-                                        .style = frame.style,
-                                        .extendedStyle = frame.extended,
-                                        .parent = OwnerOf(options),
-                                        .caption = options.caption});
+  const bool made = PaneWindow::Make({.className = kWindowClass,
+                                      .style = frame.style,
+                                      .extendedStyle = frame.extended,
+                                      .parent = OwnerOf(options),
+                                      .caption = options.caption});
   if (made) tips_.emplace(Handle());
   return made;
 }

@@ -122,7 +122,16 @@ TreeNode Win32TreeView::FirstChild(TreeNode node) const {
 TreeNode Win32TreeView::Next(TreeNode node) const { return node ? Neighbour(TVGN_NEXT, node) : 0; }
 TreeNode Win32TreeView::Selected() const { return Neighbour(TVGN_CARET, 0); }
 
+// The system opens the parents of a chosen item too, but does not tell of it.
+void Win32TreeView::Reveal(TreeNode node) {
+  const TreeNode parent = Parent(node);
+  if (!parent) return;
+  Reveal(parent);
+  SetExpanded(parent, true);
+}
+
 void Win32TreeView::Select(TreeNode node) {
+  Reveal(node);
   SendPointer(TVM_SELECTITEM, TVGN_CARET, node ? ItemOf(node) : nullptr);
 }
 
@@ -135,7 +144,7 @@ bool Win32TreeView::Expanded(TreeNode node) const {
 
 void Win32TreeView::SetExpanded(TreeNode node, bool expanded) {
   const HTREEITEM item = ItemOf(node);
-  if (!item || expanded == Expanded(node)) return;
+  if (!item || expanded == Expanded(node) || (expanded && !FirstChild(node))) return;
   // The system tells of the first change by code alone; here each one is told.
   if (expanded && Expanding) Expanding(node);
   expandingByCode_ = true;

@@ -39,6 +39,7 @@ class Win32TreeView final : public ControlOf<TreeView> {
   int ImageOf(const Icon& icon);
   bool Sorted(TreeNode parent) const { return sorted_.contains(parent); }
   void Forget(TreeNode node);
+  void Reveal(TreeNode node);
   void TellNodeClick(TreeNode node);
   void TellExpansion(const std::function<void(TreeNode)>& handler, const NMTREEVIEWW& change) const;
 
