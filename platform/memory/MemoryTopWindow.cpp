@@ -166,10 +166,12 @@ void MemoryTopWindow::Paint(Surface& screen) {
 }
 
 void MemoryTopWindow::OnActivation(Activation activation) {
+  // The keyboard is there before the window hears that it is active.
   const bool gained = activation == Activation::Gained;
-  TopEvents().OnActivate(activation);
-  const bool active = Alive() && Desktop().stack().Active() == this;
-  if (Alive() && active == gained && focus_ != nullptr) focus_->OnFocusChange(gained);
+  const auto stillSo = [&] { return Alive() && (Desktop().stack().Active() == this) == gained; };
+  if (gained && focus_ != nullptr) focus_->OnFocusChange(true);
+  if (stillSo()) TopEvents().OnActivate(activation);
+  if (!gained && stillSo() && focus_ != nullptr) focus_->OnFocusChange(false);
 }
 
 bool MemoryTopWindow::PressFrame(const PointerInput& input) {

@@ -53,6 +53,21 @@ TEST_F(Stories, ShowingWithoutActivationLeavesTheFocusWhereItWas) {
   EXPECT_TRUE(OtherHolds(*other, u"x"));
 }
 
+TEST_F(Stories, AClickOnAWindowThatIsNotToBeActiveLeavesTheFocusWhereItWas) {
+  const auto other = StartOther();
+  Listener listener;
+  const auto edge = desktop().windows().NewTopWindow({.activatable = false}, listener);
+  edge->SetBounds(kOurs);
+  edge->SetTopMost(true);
+  edge->Show(ShowMode::NoActivate);
+  Settle();
+  Click(*edge);
+  EXPECT_EQ(listener.Count("left down"), 1);
+  EXPECT_TRUE(OtherHasForeground());
+  PressKey('X');
+  EXPECT_TRUE(OtherHolds(*other, u"x"));
+}
+
 TEST_F(Stories, ADisabledFormTakesNoClickDuringAPump) {
   Listener listener;
   const auto window = NewWindow(listener, kOurs);
