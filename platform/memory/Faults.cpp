@@ -25,7 +25,10 @@ void Faults::Clear() {
 
 std::optional<Failure> Faults::Ask(std::string_view call) {
   ++calls_;
-  if (calls_ == failing_) return failingHow_;
+  if (calls_ == failing_) {
+    failedNth_ = call;
+    return failingHow_;
+  }
   if (const auto once = next_.find(call); once != next_.end()) {
     const Failure how = once->second;
     next_.erase(once);

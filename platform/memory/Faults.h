@@ -33,6 +33,8 @@ class Faults {
   /// Calls so far, failed ones included: a test runs its story once to learn how many there are,
   /// then once more for each with that one failing.
   int Calls() const { return calls_; }
+  /// The call that FailNth let fail ("Files.Write"); empty until it has come.
+  const std::string& FailedNth() const { return failedNth_; }
 
   /// Asked by the ports. None: the call goes well.
   [[nodiscard]] std::optional<Failure> Ask(std::string_view call);
@@ -42,6 +44,7 @@ class Faults {
   int calls_ = 0;
   int failing_ = 0;  ///< number of the call that FailNth chose; 0 for none
   Failure failingHow_;
+  std::string failedNth_;
   std::map<std::string, Failure, std::less<>> next_;
   std::map<std::string, Failure, std::less<>> always_;
 };
