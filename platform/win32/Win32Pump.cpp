@@ -107,15 +107,18 @@ void Win32Pump::DoEvents() {
   }
 }
 
+// Not by GetMessage: it delivers what other programs send (the task bar's clicks among it) without
+// returning, and the loop would not see that the last form has gone.
 bool Win32Pump::WaitAndDispatch() {
+  ::MsgWaitForMultipleObjectsEx(0, nullptr, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
   MSG message;
-  const BOOL got = ::GetMessageW(&message, nullptr, 0, 0);
-  if (got > 0) {
-    Dispatch(message);
-    return true;
+  if (!::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) return true;
+  if (message.message == WM_QUIT) {
+    ::PostQuitMessage(static_cast<int>(message.wParam));
+    return false;
   }
-  if (got == 0) ::PostQuitMessage(static_cast<int>(message.wParam));
-  return false;
+  Dispatch(message);
+  return true;
 }
 
 void Win32Pump::Dispatch(const MSG& message) {
