@@ -1,10 +1,12 @@
 // Registry, files, locale and clipboard.
 #include <algorithm>
 
+#include <gmock/gmock.h>
 #include "platform/files.h"
 #include "platform/locale.h"
 #include "platform/numbers.h"
 #include "platform/registry.h"
+
 #include "tests/conformance/Conformance.h"
 
 namespace conformance {
@@ -181,7 +183,9 @@ TEST_F(InLocale, WhatThePageLacksBecomesAQuestionMark) {
 TEST_F(InLocale, SpeaksGerman) {
   EXPECT_EQ(locale().Numbers().decimal, u',');
   EXPECT_EQ(locale().Numbers().group, u'.');
-  EXPECT_EQ(platform::ToUtf8(locale().ShortDate(kWhen)), "09.03.2026");
+  // Wine's regional data has the short date without leading zeros.
+  EXPECT_THAT(platform::ToUtf8(locale().ShortDate(kWhen)),
+              testing::AnyOf("09.03.2026", "9.3.2026"));
   EXPECT_EQ(platform::ToUtf8(locale().LongDate(kWhen)), "Montag, 9. März 2026");
   EXPECT_EQ(platform::ToUtf8(locale().LongTime(kWhen)), "07:05:04");
   EXPECT_EQ(platform::ToUtf8(locale().ShortTime(kWhen)), "07:05");
@@ -195,9 +199,11 @@ TEST_F(InLocale, DatePicturesAreFilledIn) {
   };
   for (const auto& [picture, expected] : kPictures) {
     const auto rendered = platform::ToUtf8(locale().FormatDate(kWhen, picture));
-    // Month names in short differ between the regional data of the systems: "Mrz", "Mär", "März".
+    // Short names differ between the regional data of the systems ("Mrz", "Mär", "März"), and
+    // Wine's have a full stop ("Mo.").
     if (std::string(expected).ends_with("Mrz")) {
-      EXPECT_TRUE(rendered.starts_with("Mo, 9. M")) << rendered;
+      EXPECT_THAT(rendered, testing::AnyOf(testing::StartsWith("Mo, 9. M"),
+                                           testing::StartsWith("Mo., 9. M")));
     } else {
       EXPECT_EQ(rendered, expected);
     }
