@@ -199,12 +199,20 @@ LRESULT PaneWindow::Press(Button button, const WindowMessage& message, bool seco
   if (focusable_) ::SetFocus(Handle());
   if (held_ == 0) ::SetCapture(Handle());
   held_ |= BitOf(button);
-  if (second) {
+  if (second && FollowsPress(button)) {
+    lastPress_.reset();
     events_.OnDoubleClick(button, MouseEventOf(message));
   } else {
+    lastPress_ = Pressed{button, ::GetMessageTime()};
     events_.OnMouseDown(button, MouseEventOf(message));
   }
   return 0;
+}
+
+// The system also counts presses that nobody was told of because the window was disabled.
+bool PaneWindow::FollowsPress(Button button) const {
+  return lastPress_ && lastPress_->button == button &&
+         static_cast<DWORD>(::GetMessageTime() - lastPress_->time) <= ::GetDoubleClickTime();
 }
 
 LRESULT PaneWindow::Release(Button button, const WindowMessage& message) {

@@ -34,6 +34,7 @@ class PaneWindow : public NativeWindow {
   LRESULT Paint();
   LRESULT Resize();
   LRESULT Press(Button button, const WindowMessage& message, bool second);
+  bool FollowsPress(Button button) const;
   LRESULT Release(Button button, const WindowMessage& message);
   LRESULT Turn(const WindowMessage& message);
   std::optional<LRESULT> KeyDown(const WindowMessage& message);
@@ -46,6 +47,11 @@ class PaneWindow : public NativeWindow {
   bool making_ = false;
   Pointer pointer_;
   unsigned held_ = 0;  // a bit for each button pressed here
+  struct Pressed {
+    Button button;
+    LONG time;
+  };
+  std::optional<Pressed> lastPress_;  // the last that was told as one
   DropRegistration drops_;
 };
 
