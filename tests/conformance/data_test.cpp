@@ -1,7 +1,8 @@
 // Registry, files, locale and clipboard.
+#include <gmock/gmock.h>
+
 #include <algorithm>
 
-#include <gmock/gmock.h>
 #include "platform/files.h"
 #include "platform/locale.h"
 #include "platform/numbers.h"
