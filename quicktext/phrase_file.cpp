@@ -2,6 +2,7 @@
 
 #include "platform/desktop.h"
 #include "platform/locale.h"
+#include "platform/text.h"
 
 namespace dorvalin {
 namespace {
@@ -130,6 +131,11 @@ std::string BytesFromPhrases(const PhraseCollection& phrases) {
     AppendLine(bytes, locale.ToAnsi(phrase->RTFText));
   }
   return bytes;
+}
+
+std::u16string EscapeMarkers(std::u16string_view text) {
+  const auto escaped = platform::ReplaceAll(text, u"#NEXT#", u"_NEXT_");
+  return platform::ReplaceAll(escaped, u"#RTF#", u"_RTF_");
 }
 
 }  // namespace dorvalin

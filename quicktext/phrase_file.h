@@ -24,4 +24,8 @@ enum class FileEnd {
                                                 std::u16string_view group);
 [[nodiscard]] std::string BytesFromPhrases(const PhraseCollection& phrases);
 
+/// Replaces what would end or format an element in the file by "_NEXT_" and "_RTF_". Nothing ever
+/// turns these back. Elements that are not typed in the editor are stored without it.
+[[nodiscard]] std::u16string EscapeMarkers(std::u16string_view text);
+
 }  // namespace dorvalin

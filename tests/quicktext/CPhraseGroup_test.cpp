@@ -3,6 +3,7 @@
 #include <random>
 
 #include "platform/text.h"
+#include "quicktext/phrase_file.h"
 #include "tests/quicktext/hostile_files.h"
 #include "tests/support/WithData.h"
 #include "tests/support/hostile.h"
@@ -310,6 +311,11 @@ TEST_F(PhraseFolder, SurvivesTheFailureOfEveryCall) {
     SCOPED_TRACE(n);
     run(n);
   }
+}
+
+TEST(PhraseFile, EscapedMarkersAreText) {
+  EXPECT_EQ(EscapeMarkers(u"#RTF##RTF#\r\n#NEXT"), u"_RTF__RTF_\r\n#NEXT");
+  EXPECT_EQ(EscapeMarkers(u"#NEXT#a#RTF#NEXT##next#"), u"_NEXT_a#RTF_NEXT_#next#");
 }
 
 TEST(PhraseFile, KeepsItsPromisesOnDamagedFiles) {
