@@ -1,5 +1,4 @@
-// A window with nothing but a rich text control: a target for typing, pasting and dropping. Rich
-// text controls take and give dropped text by themselves.
+// A window with nothing but a rich text control: a target for typing and pasting.
 #include <ole2.h>
 #include <richedit.h>
 #include <windows.h>

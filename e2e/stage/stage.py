@@ -221,7 +221,7 @@ class Stage:
         return self.open("notepad", self.windows_path(file))
 
     def open_rich_editor(self):
-        """A window with nothing but a rich text control, which also takes what is dropped on it."""
+        """A window with nothing but a rich text control; Wine's takes no drops."""
         return self.open(helper("richtext"))
 
     def open_word_processor(self):
