@@ -19,8 +19,6 @@ SETTINGS = {"RightBarMode": 1}
 class DorvalinTest(StageTest):
     """Starts with the text editor in front and all settings at their defaults."""
 
-    program = None
-
     def setUp(self):
         super().setUp()
         self.editor = self.stage.open_editor()
@@ -36,11 +34,7 @@ class DorvalinTest(StageTest):
             self.stage.registry.set(KEY + subkey, name, value)
 
     def start(self, access=None, settings=None):
-        """Starts the program, in place of one that runs, with these settings; waits until it is resident."""
-        if self.program:
-            self.program.kill()
-            self.stage.wait_for(lambda: not self.stage.windows(program=PROGRAM), "the former one is gone")
-            self.editor.window.bring_up()
+        """Starts the program with these settings and waits until it is resident."""
         self.store(r"\Access", **(access or {}))
         self.store(r"\Settings", **(settings or {}))
         self.program = self.stage.start_dorvalin()

@@ -23,14 +23,20 @@ class Gestures(DorvalinTest):
         self.expect_arrived("42")
         self.expect_no_window()
 
-    def test_every_held_button_brings_the_wheel(self):
-        for setting, buttons in (("BothBtn", ("left", "right")), ("RightBtn", ("right",)), ("LeftBtn", ("left",))):
-            with self.subTest(setting):
-                self.start(access={**ONLY, setting: 1})
-                before = self.editor.text
-                self.call_wheel(*self.beside_the_text(), *buttons)
-                self.calculate("6*7")
-                self.expect_arrived(before + "42")
+    def expect_road_by(self, setting, *buttons):
+        self.start(access={**ONLY, setting: 1})
+        self.call_wheel(*self.beside_the_text(), *buttons)
+        self.calculate("6*7")
+        self.expect_arrived("42")
+
+    def test_both_held_buttons_bring_the_wheel(self):
+        self.expect_road_by("BothBtn", "left", "right")
+
+    def test_the_held_right_button_brings_the_wheel(self):
+        self.expect_road_by("RightBtn", "right")
+
+    def test_the_held_left_button_brings_the_wheel(self):
+        self.expect_road_by("LeftBtn", "left")
 
     def test_scroll_lock_brings_the_wheel_and_stays_as_it_was(self):
         self.start(access={**ONLY, "ScrollKey": 1})
@@ -88,8 +94,9 @@ class Host(DorvalinTest):
         self.call_wheel(*self.editor.middle)
         self.calculate("6*7")
         self.expect_arrived("42")
+        self.stage.wait_for(lambda: find_panel(self.stage), "the panel comes back")
         self.assertIsNone(find_wheel(self.stage))
-        self.assertIsNotNone(find_panel(self.stage))
+        self.assertEqual(self.stage.foreground(), self.editor.window)
 
 
 class Sidebar(DorvalinTest):
@@ -105,18 +112,24 @@ class Sidebar(DorvalinTest):
         self.stage.wait_for(lambda: self.column() and self.fields(), "the column opens with its panel", 15)
         self.stage.wait_until_still()
 
-    def test_each_mode_opens_the_column_and_the_target_keeps_the_focus(self):
-        for mode in (0, 1, 2):
-            with self.subTest(mode=mode):
-                self.start(settings={"RightBarMode": mode})
-                before = self.editor.text
-                self.reach_edge(click=mode == 1)
-                self.assertEqual(self.stage.foreground(), self.editor.window)
-                self.stage.screenshot(f"sidebar-{mode}")
-                self.stage.pointer.click(*self.term_field().middle)
-                self.calculate("6*7")
-                self.expect_arrived(before + "42")
-                self.expect_no_window()
+    def expect_road_in_mode(self, mode):
+        self.start(settings={"RightBarMode": mode})
+        self.reach_edge(click=mode == 1)
+        self.assertEqual(self.stage.foreground(), self.editor.window)
+        self.stage.screenshot(f"sidebar-{mode}")
+        self.stage.pointer.click(*self.term_field().middle)
+        self.calculate("6*7")
+        self.expect_arrived("42")
+        self.expect_no_window()
+
+    def test_contact_with_the_edge_opens_the_column_and_the_target_keeps_the_focus(self):
+        self.expect_road_in_mode(0)
+
+    def test_a_click_at_the_edge_opens_the_column_and_the_target_keeps_the_focus(self):
+        self.expect_road_in_mode(1)
+
+    def test_a_rest_at_the_edge_opens_the_column_and_the_target_keeps_the_focus(self):
+        self.expect_road_in_mode(2)
 
     def test_another_bubble_opens_its_panel_and_leaving_closes(self):
         self.start(settings={"RightBarMode": 0})
