@@ -17,7 +17,7 @@ bool Win32CheckBox::Make(HWND parent, const Rect& bounds, std::u16string_view ca
 bool Win32CheckBox::Checked() const { return Send(BM_GETCHECK) == BST_CHECKED; }
 
 void Win32CheckBox::SetChecked(bool checked) {
-  if (checked == Checked()) return;
+  if (!Handle() || checked == Checked()) return;
   Send(BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED);
   TellChecked();
 }

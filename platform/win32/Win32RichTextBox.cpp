@@ -177,6 +177,7 @@ std::u16string Win32RichTextBox::OwnText() const {
 std::u16string Win32RichTextBox::Text() const { return WithLineFeeds(OwnText()); }
 
 void Win32RichTextBox::SetText(std::u16string_view text) {
+  if (!Handle()) return;
   const bool changes = text != Text();
   settingText_ = true;
   SetWindowText(text);
@@ -224,6 +225,7 @@ bool Win32RichTextBox::StreamIn(std::string_view source) {
 }
 
 bool Win32RichTextBox::SetRichText(std::string_view source) {
+  if (!Handle()) return false;
   settingText_ = true;
   const bool taken = StreamIn(source);
   if (!taken) SetWindowText({});

@@ -23,6 +23,7 @@ void Win32Slider::SetValue(int value) {
 
 // The system tells of every notch of a drag several times.
 void Win32Slider::TellIfMoved() {
+  if (!Handle()) return;
   const int value = Value();
   if (std::exchange(told_, value) != value) TellChange();
 }

@@ -25,6 +25,7 @@ bool Win32TextBox::Make(HWND parent, const Rect& bounds, const TextBoxStyle& sty
 }
 
 void Win32TextBox::SetText(std::u16string_view text) {
+  if (!Handle()) return;
   const bool changes = text != Text();
   // The system tells of this change only for a single line.
   settingText_ = true;
