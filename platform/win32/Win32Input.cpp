@@ -31,6 +31,16 @@ DWORD WINAPI TypeAll(void* parameter) {
   return 0;
 }
 
+/// Waits without dispatching input or ticks, but answers what other programs ask of our windows:
+/// one that pastes may ask the clipboard's owner, and would hang as long as nobody answers.
+void WaitAnswering(HANDLE thread) {
+  MSG message;
+  while (::MsgWaitForMultipleObjects(1, &thread, FALSE, INFINITE, QS_SENDMESSAGE) ==
+         WAIT_OBJECT_0 + 1) {
+    ::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
+  }
+}
+
 /// The asynchronous state knows the buttons by their place, the user by what they do.
 int KeyOf(Button button) {
   const bool swapped = ::GetSystemMetrics(SM_SWAPBUTTON) != 0;
@@ -74,7 +84,7 @@ bool Win32Input::Type(const std::vector<KeyStroke>& strokes) {
   Typing typing{strokes};
   const OwnedKernel thread(::CreateThread(nullptr, 0, TypeAll, &typing, 0, nullptr));
   if (!thread) return false;
-  ::WaitForSingleObject(thread.get(), INFINITE);
+  WaitAnswering(thread.get());
   return typing.complete;
 }
 

@@ -38,6 +38,8 @@ class DesktopUnderTest {
  public:
   virtual ~DesktopUnderTest() = default;
   virtual platform::Desktop& desktop() = 0;
+  /// Where it is known to differ from Windows.
+  virtual bool OnWine() = 0;
 
   /// Started at the place, in the foreground, empty.
   virtual std::unique_ptr<OtherProgram> Start(const Rect& place) = 0;

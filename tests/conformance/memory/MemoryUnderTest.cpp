@@ -21,6 +21,7 @@ class MemoryProgram final : public OtherProgram {
 class MemoryUnderTest final : public DesktopUnderTest {
  public:
   platform::Desktop& desktop() override { return desktop_; }
+  bool OnWine() override { return false; }
   std::unique_ptr<OtherProgram> Start(const Rect& place) override {
     return std::make_unique<MemoryProgram>(desktop_, place);
   }

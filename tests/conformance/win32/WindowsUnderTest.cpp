@@ -128,6 +128,9 @@ class TargetProgram final : public OtherProgram {
 class WindowsUnderTest final : public DesktopUnderTest {
  public:
   platform::Desktop& desktop() override { return desktop_; }
+  bool OnWine() override {
+    return ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+  }
   std::unique_ptr<OtherProgram> Start(const Rect& place) override {
     return std::make_unique<TargetProgram>(place, [this](milliseconds time) { Pump(time); });
   }
