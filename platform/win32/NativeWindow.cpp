@@ -27,6 +27,8 @@ HWND NextSibling(HWND window) { return ::GetWindow(window, GW_HWNDNEXT); }
 NativeWindow::~NativeWindow() {
   // The events' owner may be gone already: nothing is told of this end.
   const HWND window = handle_;
+  // The system may give its number to another window.
+  SetToolTip({});
   Detach();
   if (window) ::DestroyWindow(window);
 }

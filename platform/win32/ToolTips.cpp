@@ -28,6 +28,7 @@ bool ToolTips::Ready() {
 }
 
 void ToolTips::Set(HWND window, std::u16string_view text) {
+  if (text.empty() && !tips_) return;
   if (!Ready()) return;
   TTTOOLINFOW tool = ToolOf(owner_, window);
   ::SendMessageW(tips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));

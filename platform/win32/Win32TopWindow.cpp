@@ -137,6 +137,13 @@ std::optional<LRESULT> Win32TopWindow::Receive(const WindowMessage& message) {
       return Activated(message);
     case WM_MOUSEACTIVATE:
       return AnswerClick();
+    case WM_CANCELMODE:
+      // Sent before the window is disabled, which takes the keyboard from its children.
+      KeepFocus();
+      return std::nullopt;
+    case WM_ENABLE:
+      if (message.wParam && ::GetActiveWindow() == Handle() && !::GetFocus()) RestoreFocus();
+      return std::nullopt;
     case WM_CLOSE:
       topEvents_.OnCloseRequest();
       return 0;
@@ -160,7 +167,8 @@ LRESULT Win32TopWindow::Activated(const WindowMessage& message) {
 
 void Win32TopWindow::KeepFocus() {
   const HWND focused = ::GetFocus();
-  lastFocus_ = ::IsChild(Handle(), focused) ? focused : nullptr;
+  if (focused == Handle()) lastFocus_ = nullptr;
+  if (::IsChild(Handle(), focused)) lastFocus_ = focused;
 }
 
 void Win32TopWindow::RestoreFocus() {

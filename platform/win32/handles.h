@@ -50,9 +50,6 @@ struct FreeModule {
 struct FreeGlobal {
   void operator()(HGLOBAL h) const { ::GlobalFree(h); }
 };
-struct FreeTask {
-  void operator()(void* p) const { ::CoTaskMemFree(p); }
-};
 
 using OwnedBitmap = Owned<HBITMAP, FreeGdi>;
 using OwnedFont = Owned<HFONT, FreeGdi>;
