@@ -72,6 +72,10 @@ void HandOver(frmBG& ring, frmMenu& host, const platform::Surface& behindRing, d
     flight->Init({ring.Window().Bounds(), &behindRing, rotation, active});
   }
   frmBG* column = ColumnForHandOver(active);
+  // What the column captured shows the flight's own picture of the ring where the two overlap.
+  if (flight != nullptr && column != nullptr) {
+    column->StandOn(flight->ScreenBehind(column->Window().Bounds()));
+  }
   if (flight != nullptr && !State().settings.DontAnimate) flight->InLine();
   if (column != nullptr && column->Loaded() && host.Loaded()) {
     column->ActiveBubble = 0;

@@ -50,6 +50,14 @@ void frmAni::Init(const Start& start) {
   Show(platform::ShowMode::NoActivate);
 }
 
+platform::Surface frmAni::ScreenBehind(const Rect& area) const {
+  if (background_.Empty()) return {};
+  platform::Surface part(area.Size());
+  BitBlt(part, part.Area(), background_, area.Origin() - Window().Bounds().Origin(),
+         platform::RasterOp::SrcCopy);
+  return part;
+}
+
 void frmAni::InLine() {
   if (background_.Empty()) return;
   for (int step = 1; step <= kSteps; ++step) {

@@ -21,6 +21,9 @@ class frmAni final : public platform::Form {
   };
   /// Draws the start and shows it in front of everything, without the activation.
   void Init(const Start& start);
+  /// The screen as it is without ring and flight, an area between ring and edge; empty when the
+  /// screen could not be read.
+  [[nodiscard]] platform::Surface ScreenBehind(const platform::Rect& area) const;
   /// Runs the flight until the bubbles stand in line.
   void InLine();
 

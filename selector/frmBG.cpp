@@ -137,6 +137,12 @@ void frmBG::InitBG(Reuse reuse) {
   Window().SetBounds(place);
 }
 
+void frmBG::StandOn(platform::Surface screen) {
+  if (screen.Empty()) return;
+  picBG_ = std::move(screen);
+  DrawMe(false, 255);
+}
+
 void frmBG::SetActiveBubble(int index, bool quiet, frmMenu* host) {
   if (index == ActiveBubble) {
     if (Host != nullptr) ShowHost(quiet);

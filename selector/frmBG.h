@@ -28,6 +28,8 @@ class frmBG final : public FunctionWheel {
   bool Init(Reuse reuse);
   /// Positions the window and captures the screen under it.
   void InitBG(Reuse reuse);
+  /// Replaces what was captured; an empty picture changes nothing.
+  void StandOn(platform::Surface screen);
   /// Makes a function active, with a new host or with the one handed in. `quiet`: the host is shown
   /// without the activation.
   void SetActiveBubble(int index, bool quiet, frmMenu* host = nullptr);

@@ -229,6 +229,22 @@ TEST_F(AtTheSidebar, TakesThePanelOverFromTheRing) {
   }
 }
 
+// The bubbles of a ring near the edge once stayed behind the column as a copy.
+TEST_F(AtTheSidebar, TheColumnDoesNotShowTheRingItCameFrom) {
+  const auto columnFrom = [](Point pointer) {
+    Program p;
+    p.Store(u"ShowRightBarAtStart", 0);
+    p.Start();
+    p.OpenWheelAt(pointer);
+    p.ClickHostButton(*p.Host(), u"An Bildschirmrand");
+    return p.Column()->Window().Canvas().Clone();
+  };
+  const auto fromAfar = columnFrom({300, 300}), fromNearby = columnFrom({1000, 300});
+  ASSERT_EQ(fromAfar.Size(), kColumnSize);
+  EXPECT_TRUE(std::equal(fromAfar.Row(0), fromAfar.Row(0) + kColumnSize.width * kColumnSize.height,
+                         fromNearby.Row(0)));
+}
+
 TEST_F(AtTheSidebar, SetFreeThePanelStaysInPlaceAndTheColumnGoes) {
   StartIn(0);
   user.MoveTo(kEdge);
