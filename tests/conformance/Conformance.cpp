@@ -94,6 +94,8 @@ bool Conformance::OtherHolds(OtherProgram& other, const std::u16string& text) {
 
 void Conformance::Click(Point p, Button button) {
   under().MoveTo(p);
+  // A display may still be telling of an earlier move.
+  under().Pump(50ms);
   under().Press(button);
   under().Release(button);
   Settle();
