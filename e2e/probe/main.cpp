@@ -23,6 +23,7 @@ const std::map<std::wstring, Command> kCommands = {
     {L"focus", Focus},
     {L"children", Children},
     {L"text", Text},
+    {L"settext", WriteText},
     {L"selection", Selection},
     {L"close", Close},
     {L"activate", Activate},

@@ -121,6 +121,12 @@ std::string Text(const Words& words) {
   return JsonText(text);
 }
 
+std::string WriteText(const Words& words) {
+  if (words.size() != 2) throw Refusal("a window and a text");
+  return JsonBool(
+      Sent(WindowOf({words[0]}), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(words[1].c_str())) != 0);
+}
+
 std::string Selection(const Words& words) {
   const DWORD_PTR range = Sent(WindowOf(words), EM_GETSEL, 0, 0);
   return JsonList({std::to_string(LOWORD(range)), std::to_string(HIWORD(range))});

@@ -114,6 +114,10 @@ class Window:
         """What the window says of itself when asked now: a control's content, a window's title."""
         return self.probe.ask("text", self.handle).replace("\r\n", "\n").replace("\r", "\n")
 
+    def write(self, text):
+        """Puts this into a field in place of what it holds."""
+        self.probe.ask("settext", self.handle, text)
+
     @property
     def selection(self):
         """Start and end of an edit control's selection, in characters."""
