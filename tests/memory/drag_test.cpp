@@ -41,14 +41,14 @@ class Feedback : public platform::DragFeedback {
 class Drags : public DesktopTest {
  protected:
   Drags() {
-    source_.drags = [this] {
+    source.drags = [this] {
       if (dragged) return;
       dragged = true;
       platform::DataContent content;
       content.text = u"Größe";
       effect = window->Drag(content, DropEffect::Copy, &feedback);
     };
-    window = NewWindow({0, 0, 90, 90}, source_);
+    window = NewWindow({0, 0, 90, 90}, source);
     window->Show(ShowMode::Activate);
   }
   std::unique_ptr<platform::TopWindow> NewWindow(const Rect& bounds,
@@ -69,10 +69,8 @@ class Drags : public DesktopTest {
   Feedback feedback;
   bool dragged = false;
   DropEffect effect = DropEffect::None;
+  Source source;  // before the window that tells it things
   std::unique_ptr<platform::TopWindow> window;
-
- private:
-  Source source_;
 };
 
 TEST_F(Drags, EnterAndLeaveEachPaneOnTheirWay) {
