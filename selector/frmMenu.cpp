@@ -198,10 +198,11 @@ void frmMenu::PopUpPanelMenu() {
   if (!aCtrl_) return;
   Floors().CurrentPanelForm = this;
   State().PopupOpen = true;
+  btnMenu_->KeptDown = true;
   aCtrl_->ShowMenu(MenuPoint(LayOutHost(Window().ClientSize(), Sizes(), state_)));
   State().PopupOpen = false;
-  if (!Loaded()) return;
-  btnMenu_->Release();
+  btnMenu_->KeptDown = false;
+  if (Loaded()) btnMenu_->Release();
 }
 
 Point frmMenu::MenuPoint(const HostParts& parts) const {
