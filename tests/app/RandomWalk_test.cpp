@@ -14,7 +14,7 @@ using platform::Point;
 using platform::TheForms;
 
 constexpr Point kEditorTitle{110, 90};
-constexpr Point kEditorCorner{600, 470};
+constexpr Point kEditorCorner{110, 350};
 
 class RestingProgram : public Program {
  public:
@@ -245,7 +245,7 @@ class ShortWalk : public RestingProgram {
  public:
   ShortWalk() {
     // A small screen: there are many walks, and each takes pictures of it.
-    desktop.screen().SetSize({640, 480});
+    desktop.screen().SetSize({480, 360});
     for (const auto name : {u"AnimateAtStart", u"AnimateFctnsNormal", u"AnimateFctnsRightBar"}) {
       Store(name, 0);
     }
@@ -260,20 +260,31 @@ class ShortWalk : public RestingProgram {
     ClickBubble(Ring(), u"Rechner");
     user.Type(u"1+1\r");
     Press(u"Freistellen");
+    ClickTheResult();
     user.Type(u"\r");
     Press(u"Schließen");
-    user.MoveTo({639, 240});
+    user.MoveTo({479, 180});
     ClickBubble(Column(), u"Zeichen");
     Press(u"Menü");
     user.MoveTo(kEditorTitle);
     user.Wait(20ms);
-    OpenWheel();
+    ClickTheIcon();
     user.Key(platform::key::kF1);
     Press(u"An Bildschirmrand");
+    handedOver = Column() != nullptr && Column()->Host != nullptr && Ring() == nullptr;
     user.Click(kEditorTitle);
     user.Wait(20ms);
     ChooseInTaskMenu(u"Seitenleiste aktivieren");
     user.Click(kEditorTitle);
+  }
+
+  /// It has seen what it was sent to see.
+  void ExpectComplete() {
+    EXPECT_EQ(editor.Text(), u"2") << "delivered from a free host";
+    EXPECT_EQ(record.menusAt.size(), 1u) << "the menu of the column's panel";
+    EXPECT_EQ(desktop.shell().run.size(), 1u) << "help";
+    EXPECT_TRUE(handedOver);
+    EXPECT_FALSE(state.SidebarOn);
   }
 
   /// The same user tries again, and now everything goes well.
@@ -285,11 +296,8 @@ class ShortWalk : public RestingProgram {
     user.Click(kEditorCorner);
     user.Wait(200ms);
     editor.SetText(u"");
-    OpenWheelAt({450, 200});
-    if (Ring() == nullptr) {  // without its timer the program still has its icon
-      desktop.taskBar().Happens(platform::TaskBarEvent::LeftUp);
-      user.Wait(20ms);
-    }
+    OpenWheelAt({300, 120});
+    if (Ring() == nullptr) ClickTheIcon();  // the program may be without its timer
     ASSERT_NE(Ring(), nullptr);
     ClickBubble(Ring(), u"Rechner");
     user.Type(u"6*7\r\r");
@@ -304,6 +312,18 @@ class ShortWalk : public RestingProgram {
   }
 
  private:
+  bool handedOver = false;
+
+  void ClickTheIcon() {
+    desktop.taskBar().Happens(platform::TaskBarEvent::LeftUp);
+    user.Wait(20ms);
+  }
+  void ClickTheResult() {
+    for (frmMenu* host : Hosts()) {
+      const auto boxes = NodesOf<platform::MemoryTextBox>(host->Window());
+      if (boxes.size() == 2) return user.Click(boxes[1]->OnScreen().Middle());
+    }
+  }
   void ClickBubble(frmBG* wheel, std::u16string_view caption) {
     if (wheel != nullptr) user.Click(Bubble(*wheel, caption));
   }
@@ -322,6 +342,7 @@ TEST(AShortWalk, RecoversFromEveryCallThatFails) {
     walk.Start();
     walk.Go();
     calls = walk.desktop.faults().Calls() - before;
+    walk.ExpectComplete();
     walk.ExpectAtRest();
     walk.ComeBack();
     walk.End();
