@@ -38,6 +38,8 @@ if(WIN32)
   target_compile_options(dorvalin_rules INTERFACE -ffunction-sections -fdata-sections)
   # Nothing of the compiler's may be missing on the user's machine, and nothing unused is shipped.
   target_link_options(dorvalin_rules INTERFACE -static -Wl,--gc-sections $<$<CONFIG:Release>:-s>)
+  # With sections at page borders of the file, Wine maps the program instead of reading it whole.
+  target_link_options(dorvalin_rules INTERFACE -Wl,--file-alignment=4096)
 endif()
 
 # dorvalin_library(<folder> SOURCES <files> [LINKS <folders or libraries>])

@@ -1,0 +1,31 @@
+# Libraries of the system that a program loads at the first call of one of their functions, since
+# the resident program mostly needs none of them and they bring many others along.
+
+# dorvalin_delayed_imports(<target> <files>)
+# links the functions that the files declare, each with its size of arguments, as the 32-bit linker
+# decorates names. A function that is used and missing there is an error of the linker.
+function(dorvalin_delayed_imports target)
+  set(decoration)
+  if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    set(decoration "@[0-9]+")
+  endif()
+  foreach(declared ${ARGN})
+    cmake_path(GET declared STEM name)
+    set(definition "${CMAKE_CURRENT_BINARY_DIR}/${name}.def")
+    set(library "${CMAKE_CURRENT_BINARY_DIR}/lib${name}-delayed.a")
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${declared}")
+    file(READ "${declared}" text)
+    if(decoration)
+      string(REGEX REPLACE "${decoration}" "" text "${text}")
+    endif()
+    file(CONFIGURE OUTPUT "${definition}" CONTENT "${text}")
+    add_custom_command(OUTPUT "${library}"
+      COMMAND "${CMAKE_DLLTOOL}" --kill-at --input-def "${definition}" --output-delaylib "${library}"
+      DEPENDS "${definition}"
+      COMMENT "Making ${name} load at its first call")
+    add_custom_target(${target}_${name} DEPENDS "${library}")
+    add_dependencies(${target} ${target}_${name})
+    target_link_libraries(${target} PUBLIC "${library}")
+  endforeach()
+  target_link_libraries(${target} PUBLIC delayimp)
+endfunction()
