@@ -12,7 +12,9 @@ struct FocusWatch {
   /// All buttons have been seen up since the wheel opened. Until then the buttons of the opening
   /// gesture itself are still held and say nothing.
   bool SawRelease = false;
-  /// The sidebar's zone has been entered at least once.
+  /// The sidebar's zone has been entered at least once. Stays so while the column is loaded: a
+  /// panel that is handed over to a column of old is put away at the edge unless the pointer comes
+  /// along.
   bool InsideZone = false;
 };
 

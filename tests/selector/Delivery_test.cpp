@@ -69,6 +69,15 @@ TEST_F(ADelivery, WaitsAsLongAsTheUserWantsAndNoLonger) {
   EXPECT_EQ(editor.Text(), u"xxxxx");
 }
 
+TEST_F(ADelivery, WaitsByTheTickCountWhereThereIsNoPerformanceCounter) {
+  desktop.clock().TakeAwayPerformanceCounter();
+  OpenPanel(u"Rechner");
+  const auto time = TimeOf([&] { SendToTarget(u"x", *Host(), false, 0); });
+  EXPECT_GE(time, 179ms);
+  EXPECT_LT(time, 190ms);
+  EXPECT_EQ(editor.Text(), u"x");
+}
+
 TEST_F(ADelivery, PutsTheCaretBackByLeftArrows) {
   OpenPanel(u"Rechner");
   SendToTarget(u"ab\r\ncd", *Host(), false, 3);

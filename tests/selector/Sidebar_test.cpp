@@ -245,6 +245,21 @@ TEST_F(AtTheSidebar, TheColumnDoesNotShowTheRingItCameFrom) {
                          fromNearby.Row(0)));
 }
 
+TEST_F(AtTheSidebar, ThatWasVisitedBeforePutsAPanelThatIsHandedOverAwayAtTheEdge) {
+  StartIn(0);
+  user.MoveTo(kEdge);
+  user.Wait(50ms);
+  Leave();
+  OpenPanel(u"Rechner");
+  frmMenu* host = Host();
+  ClickHostButton(*host, u"An Bildschirmrand");
+  user.Wait(50ms);
+  EXPECT_FALSE(ColumnIsSeen() || host->Visible());
+  EXPECT_TRUE(EditorIsActive());
+  user.MoveTo(kEdge);
+  EXPECT_TRUE(ColumnIsSeen() && host->Visible());
+}
+
 TEST_F(AtTheSidebar, SetFreeThePanelStaysInPlaceAndTheColumnGoes) {
   StartIn(0);
   user.MoveTo(kEdge);
