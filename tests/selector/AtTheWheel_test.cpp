@@ -200,6 +200,28 @@ TEST_F(AtTheWheel, TheCaptionOfTheBubbleUnderThePointerStandsInTheMiddle) {
   EXPECT_EQ(middle(), plain);
 }
 
+TEST_F(AtTheWheel, ClicksWhileItsHostFadesInMeanNothing) {
+  OpenWheel();
+  const Point empty = Empty(*Ring()), bubble = Bubble(*Ring(), u"Rechner");
+  user.Click(empty);
+  for (const Point at : {empty, bubble}) {
+    bool open = false, clicked = false;
+    user.Later(100ms, [&, at] {
+      clicked = Ring() != nullptr && !open;
+      desktop.input().HandMoves(at);
+      desktop.input().HandPresses(Button::Left);
+      desktop.input().HandReleases(Button::Left);
+    });
+    desktop.taskBar().Happens(platform::TaskBarEvent::LeftUp);
+    desktop.pump().DoEvents();
+    open = true;
+    EXPECT_TRUE(clicked) << "while the wheel was still opening";
+    ASSERT_NE(Ring(), nullptr);
+    EXPECT_EQ(Ring()->ActiveBubble, 2);
+    user.Click(empty);
+  }
+}
+
 TEST_F(AtTheWheel, StandsOnACopyOfTheScreen) {
   editor.SetColour(0x3366CC);
   settings.AnimateFctnsNormal = false;

@@ -174,7 +174,36 @@ TEST_F(ADelivery, FromTheSidebarHidesTheColumnAndKeepsItsPanel) {
   EXPECT_FALSE(state.Sending);
 }
 
-TEST_F(ADelivery, AnOverWhelmedTargetLosesTheKeysWithoutAWord) {
+TEST_F(ADelivery, FromTheSidebarCanLeaveTheHostFreeToo) {
+  settings.StayAfterSend = true;
+  ChooseInTaskMenu(u"Seitenleiste aktivieren");
+  user.Click(editor.Middle());
+  OpenSidebar();
+  frmMenu* host = Host();
+  ASSERT_NE(host, nullptr);
+  SendToTarget(u"x", *host, false, 0);
+  EXPECT_EQ(editor.Text(), u"x");
+  EXPECT_EQ(Column(), nullptr);
+  EXPECT_TRUE(host->Free() && host->Visible());
+  EXPECT_TRUE(EditorIsActive());
+}
+
+// The activation must pass over the other windows of the program, which are disabled meanwhile.
+TEST_F(ADelivery, NeverLandsInAFreeHostThatWasActiveBefore) {
+  OpenWheelAt({300, 150});
+  user.Click(Bubble(*Ring(), u"Rechner"));
+  frmMenu& free = *Host();
+  free.DoFree();
+  user.Click(NodesOf<platform::MemoryTextBox>(free.Window())[0]->OnScreen().Middle());
+  EXPECT_FALSE(EditorIsActive());
+  OpenWheelAt({700, 150});
+  ASSERT_NE(Host(), nullptr);
+  SendToTarget(u"x", *Host(), false, 0);
+  EXPECT_EQ(editor.Text(), u"x");
+  EXPECT_EQ(NodesOf<platform::MemoryTextBox>(free.Window())[0]->Text(), u"");
+}
+
+TEST_F(ADelivery, ToABusyTargetLosesTheKeysWithoutAWord) {
   editor.SetBusy(true);
   OpenPanel(u"Rechner");
   SendToTarget(u"x", *Host(), false, 0);
