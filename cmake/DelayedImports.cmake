@@ -12,7 +12,8 @@ function(dorvalin_delayed_imports target)
   foreach(declared ${ARGN})
     cmake_path(GET declared STEM name)
     set(definition "${CMAKE_CURRENT_BINARY_DIR}/${name}.def")
-    set(library "${CMAKE_CURRENT_BINARY_DIR}/lib${name}-delayed.a")
+    # Without a path when it is made, since its symbols are named after it.
+    set(library "lib${name}-delayed.a")
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${declared}")
     file(READ "${declared}" text)
     if(decoration)
@@ -22,10 +23,11 @@ function(dorvalin_delayed_imports target)
     add_custom_command(OUTPUT "${library}"
       COMMAND "${CMAKE_DLLTOOL}" --kill-at --input-def "${definition}" --output-delaylib "${library}"
       DEPENDS "${definition}"
+      WORKING_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}"
       COMMENT "Making ${name} load at its first call")
-    add_custom_target(${target}_${name} DEPENDS "${library}")
+    add_custom_target(${target}_${name} DEPENDS "${CMAKE_CURRENT_BINARY_DIR}/${library}")
     add_dependencies(${target} ${target}_${name})
-    target_link_libraries(${target} PUBLIC "${library}")
+    target_link_libraries(${target} PUBLIC "${CMAKE_CURRENT_BINARY_DIR}/${library}")
   endforeach()
   target_link_libraries(${target} PUBLIC delayimp)
 endfunction()
