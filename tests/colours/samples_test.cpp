@@ -14,7 +14,7 @@ namespace {
 class DeliveredPalettes : public WithData {
  protected:
   void SetUp() override {
-    for (const auto& [name, bytes] : DeliveredFiles("Palettes")) {
+    for (const auto& [name, bytes] : DeliveredFiles(DORVALIN_DATA "/Palettes")) {
       files.Put(u"C:\\Programme\\Dorvalin\\Palettes\\" + platform::FromUtf8(name) + u".dvl", bytes);
     }
     InitPalettes();

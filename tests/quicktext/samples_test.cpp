@@ -16,7 +16,7 @@ namespace {
 class DeliveredGroups : public WithData {
  protected:
   void SetUp() override {
-    for (const auto& [name, bytes] : DeliveredFiles("Phrases")) {
+    for (const auto& [name, bytes] : DeliveredFiles(DORVALIN_DATA "/Phrases")) {
       files.Put(u"C:\\Programme\\Dorvalin\\Phrases\\" + platform::FromUtf8(name) + u".dvp", bytes);
     }
     InitPhraseGroups();

@@ -9,11 +9,10 @@
 
 namespace dorvalin {
 
-/// Names without extension, and bytes, of the files in a folder of app/data.
-inline std::map<std::string, std::string> DeliveredFiles(const char* folder) {
+/// Names without extension, and bytes, of the files in a folder.
+inline std::map<std::string, std::string> DeliveredFiles(const std::filesystem::path& folder) {
   std::map<std::string, std::string> files;
-  for (const auto& entry :
-       std::filesystem::directory_iterator(std::filesystem::path(DORVALIN_DATA) / folder)) {
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
     std::ifstream file(entry.path(), std::ios::binary);
     files[entry.path().stem().string()] = {std::istreambuf_iterator<char>(file), {}};
   }
