@@ -41,8 +41,8 @@ class Form : protected TopWindowEvents {
   /// False: the form refused and stays. Unloading twice does nothing.
   bool Unload();
 
-  /// The Tab key visits the windows in the order in which they were added. They must live as long as
-  /// the form. Null is left out.
+  /// The Tab key visits the windows in the order in which they were added. They must live as long
+  /// as the form. Null is left out.
   void AddTabStop(platform::Window* window);
   /// Makes it the first that Tab visits and the one that has the keyboard when the form is shown.
   void PutFirst(platform::Window* window);

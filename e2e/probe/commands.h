@@ -19,7 +19,7 @@ std::string Foreground(const Words& none);       ///< the window with the keys, 
 std::string Focus(const Words& none);            ///< the control with the keys, or null
 std::string Children(const Words& window);       ///< all windows inside
 std::string Text(const Words& window);           ///< as the window itself tells it
-std::string WriteText(const Words& words);        ///< window, the text that a field is to hold
+std::string WriteText(const Words& words);       ///< window, the text that a field is to hold
 std::string Selection(const Words& window);      ///< [start, end] in an edit control
 std::string Close(const Words& window);          ///< asks the window to close
 std::string Activate(const Words& window);       ///< makes it the foreground window
