@@ -2,31 +2,29 @@
 #pragma once
 
 #include <cmath>
-#include <optional>
 
 #include "calculator/modSolve.h"
 
 namespace dorvalin {
 
-/// A success without a value leaves the caller's variable as it was: an overflow that no one looks
-/// at, as in squares.
+/// Small enough to be handed on in registers.
 struct Solved {
   int status = kSolved;
-  std::optional<double> value;
+  /// No finite number: none. A success without a value leaves the caller's variable as it was: an
+  /// overflow that no one looks at, as in squares.
+  double value = 0;
 
   [[nodiscard]] bool Failed() const { return status < 0; }
+  [[nodiscard]] double ValueOr(double unwritten) const {
+    return std::isfinite(value) ? value : unwritten;
+  }
 };
 
-[[nodiscard]] inline Solved Failure(int status) { return {status, std::nullopt}; }
+[[nodiscard]] inline Solved Failure(int status) { return {status, HUGE_VAL}; }
 
-/// An arithmetic error shows as a result that is no finite number.
-[[nodiscard]] inline Solved ValueOr(double value, int statusOfError) {
+/// For the steps at which an arithmetic error is looked for: it shows as no finite number.
+[[nodiscard]] inline Solved Checked(double value, int statusOfError) {
   return std::isfinite(value) ? Solved{kSolved, value} : Failure(statusOfError);
-}
-
-/// For the steps at which nobody looks for an error.
-[[nodiscard]] inline Solved ValueIfFinite(double value, int status = kSolved) {
-  return {status, std::isfinite(value) ? std::optional(value) : std::nullopt};
 }
 
 }  // namespace dorvalin

@@ -26,9 +26,6 @@ class TermMap {
 
   TermMap(std::u16string_view text, std::pmr::memory_resource* memory);
 
-  /// 1 for + and -, 2 for * / × ÷ §, 3 for ^, 0 for anything else.
-  [[nodiscard]] static int LevelOf(char16_t unit);
-
   [[nodiscard]] bool Balances(Range range) const {
     return At(range.begin).depth == At(range.end).depth;
   }
@@ -56,7 +53,7 @@ class TermMap {
   /// Is there no operator, bracket or postfix in the range, and no number in front of a word?
   [[nodiscard]] bool IsLeaf(Range range) const {
     const Place& first = At(range.begin);
-    return first.nextMark >= range.end &&
+    return At(range.end).lastMark < range.begin &&
            (first.nextWord == range.begin || first.nextWord >= range.end);
   }
 
@@ -69,18 +66,19 @@ class TermMap {
   struct Place {
     int depth = 0;           ///< brackets open in front of it
     Cuts lastCut = kNoCuts;  ///< the nearest at the same depth before it
+    int lastMark = kNone;    ///< operator, bracket or postfix
     int nextWord = 0;
-    int nextMark = 0;  ///< operator, bracket or postfix
     int nextGroup = 0;
-    int nextAtDepth = 0;  ///< the next place of the same depth
+    int nextAtDepth = 0;      ///< the next place of the same depth
+    int lastOfDepth = kNone;  ///< not of this place: of the depth with its number, met so far
   };
 
   Place& At(int place) { return places_[static_cast<std::size_t>(place)]; }
   const Place& At(int place) const { return places_[static_cast<std::size_t>(place)]; }
-  int Length() const { return static_cast<int>(places_.size()) - 1; }
 
-  void MarkCuts(std::u16string_view text, std::pmr::memory_resource* memory);
-  void MarkNext(std::u16string_view text, std::pmr::memory_resource* memory);
+  int& LastOfDepth(int depth);
+  void MarkBefore(std::u16string_view text);
+  void MarkBehind(std::u16string_view text);
 
   std::pmr::vector<Place> places_;
 };

@@ -1,5 +1,6 @@
 #include "calculator/TermSolver.h"
 
+#include "calculator/units.h"
 #include "platform/text.h"
 
 namespace dorvalin {
@@ -11,9 +12,10 @@ TermSolver::TermSolver(std::u16string_view text, const Words& words)
 
 Solved TermSolver::Solve(Range range) {
   const std::size_t base = frames_.size();
-  Next next = Open(range);
+  asked_ = range;
+  Next next = Open();
   while (next == Next::Part || frames_.size() > base)
-    next = next == Next::Part ? Open(asked_) : Settle(Continue(frames_.back(), Solved(solved_)));
+    next = next == Next::Part ? Open() : Settle(Continue(frames_.back(), solved_));
   return solved_;
 }
 
@@ -23,13 +25,13 @@ TermSolver::Next TermSolver::Ask(Frame& frame, Part part, Range range) {
   return Next::Part;
 }
 
-TermSolver::Next TermSolver::Answer(const Solved& solved) {
+TermSolver::Next TermSolver::Answer(Solved solved) {
   solved_ = solved;
   return Next::Done;
 }
 
-TermSolver::Next TermSolver::Open(Range untrimmed) {
-  const Range range = Trimmed(untrimmed);
+TermSolver::Next TermSolver::Open() {
+  const Range range = Trimmed(asked_);
   if (range.Empty()) return Answer(Failure(kNothingToSolve));
   if (map_.IsLeaf(range)) return Answer(SolveWord(Text(range), words_));
   // However it is cut, its leftmost part does not balance either.
@@ -38,8 +40,9 @@ TermSolver::Next TermSolver::Open(Range untrimmed) {
     const auto found = remembered_.find(KeyOf(range));
     if (found != remembered_.end()) return Answer(found->second);
   }
-  frames_.push_back({.range = range});
-  return Settle(Begin(frames_.back()));
+  Frame& frame = frames_.emplace_back();
+  frame.range = range;
+  return Settle(Begin(frame));
 }
 
 // A range that is solved leaves the stack.
@@ -77,7 +80,7 @@ TermSolver::Split TermSolver::FindSplit(Range range, int level) const {
   if (const int cut = map_.LastCut(range, level); cut != TermMap::kNone)
     return {Split::Kind::Between, cut};
   const bool leading =
-      !range.Empty() && TermMap::LevelOf(Unit(range.begin)) == level && map_.Balances(range);
+      !range.Empty() && KindOf(Unit(range.begin)).level == level && map_.Balances(range);
   return {leading ? Split::Kind::Leading : Split::Kind::None, range.begin};
 }
 
@@ -122,53 +125,47 @@ TermSolver::Next TermSolver::BeginCall(Frame& frame, int open) {
   return Ask(frame, Part::Group, {open + 1, frame.at - 1});
 }
 
-TermSolver::Next TermSolver::Continue(Frame& frame, const Solved& part) {
+TermSolver::Next TermSolver::Continue(Frame& frame, Solved part) {
   if (frame.awaited == Part::Factor || frame.awaited == Part::SilentProduct)
     return AfterFactor(frame, part);
   if (part.Failed()) return Answer(part);
-  const double right = part.value.value_or(0);
+  const double right = part.ValueOr(0);
   switch (frame.awaited) {
     case Part::LeftOperand:
-      frame.left = part.value.value_or(frame.left);
+      frame.left = part.ValueOr(frame.left);
       return AskRightOperand(frame);
     case Part::RightOperand:
       return Answer(ApplyOperator(Unit(frame.at), frame.left, right));
     case Part::PostfixOperand:
-      return Answer(ApplyPostfix(Unit(frame.range.end - 1), part.value.value_or(frame.left)));
+      return Answer(ApplyPostfix(Unit(frame.range.end - 1), part.ValueOr(frame.left)));
     case Part::Group:
       return AfterGroup(frame, part);
     case Part::NoFunction:
-      frame.left = part.value.value_or(frame.left);
+      frame.left = part.ValueOr(frame.left);
       // The last character is taken for the closing bracket, whatever it is.
       return Ask(frame, Part::LastGroup, {frame.at + 1, frame.range.end - 1});
     default:
-      return Answer(ValueIfFinite(frame.left * right));
+      return Answer({kSolved, frame.left * right});
   }
 }
 
 // A failure here is none yet: the range is cut in another way.
-TermSolver::Next TermSolver::AfterFactor(Frame& frame, const Solved& part) {
+TermSolver::Next TermSolver::AfterFactor(Frame& frame, Solved part) {
   if (part.Failed()) {
     ++failures_;
     return BeginTightParts(frame);
   }
-  if (frame.awaited == Part::SilentProduct)
-    return Answer(ValueIfFinite(frame.left * part.value.value_or(0)));
-  frame.left = part.value.value_or(frame.left);
+  if (frame.awaited == Part::SilentProduct) return Answer({kSolved, frame.left * part.ValueOr(0)});
+  frame.left = part.ValueOr(frame.left);
   return Ask(frame, Part::SilentProduct, {frame.at, frame.range.end});
 }
 
-TermSolver::Next TermSolver::AfterGroup(Frame& frame, const Solved& part) {
+TermSolver::Next TermSolver::AfterGroup(Frame& frame, Solved part) {
   const Solved group = frame.function ? CallFunction(*frame.function, part, frame.left) : part;
   if (group.Failed()) return Answer(group);
-  frame.left = group.value.value_or(frame.left);
+  frame.left = group.ValueOr(frame.left);
   if (frame.at == frame.range.end) return Answer({kSolved, frame.left});
   return Ask(frame, Part::BehindGroup, {frame.at, frame.range.end});
-}
-
-std::u16string_view TermSolver::Text(Range range) const {
-  return text_.substr(static_cast<std::size_t>(range.begin),
-                      static_cast<std::size_t>(range.end - range.begin));
 }
 
 std::uint64_t TermSolver::KeyOf(Range range) {

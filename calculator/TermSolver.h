@@ -59,9 +59,9 @@ class TermSolver {
   /// Either `asked_` is to be solved next, or `solved_` is what the current range gives.
   enum class Next : std::uint8_t { Part, Done };
   Next Ask(Frame& frame, Part part, Range range);
-  Next Answer(const Solved& solved);
+  Next Answer(Solved solved);
 
-  Next Open(Range untrimmed);
+  Next Open();
   Next Settle(Next next);
 
   Next Begin(Frame& frame);
@@ -72,12 +72,15 @@ class TermSolver {
   Next BeginGroup(Frame& frame);
   Next BeginCall(Frame& frame, int open);
 
-  Next Continue(Frame& frame, const Solved& part);
-  Next AfterFactor(Frame& frame, const Solved& part);
-  Next AfterGroup(Frame& frame, const Solved& part);
+  Next Continue(Frame& frame, Solved part);
+  Next AfterFactor(Frame& frame, Solved part);
+  Next AfterGroup(Frame& frame, Solved part);
 
   char16_t Unit(int at) const { return text_[static_cast<std::size_t>(at)]; }
-  std::u16string_view Text(Range range) const;
+  std::u16string_view Text(Range range) const {
+    return text_.substr(static_cast<std::size_t>(range.begin),
+                        static_cast<std::size_t>(range.end - range.begin));
+  }
   Range Trimmed(Range range) const {
     while (!range.Empty() && Unit(range.end - 1) == u' ') --range.end;
     while (!range.Empty() && Unit(range.begin) == u' ') ++range.begin;

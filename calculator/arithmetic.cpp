@@ -6,7 +6,7 @@ namespace dorvalin {
 namespace {
 
 Solved Quotient(double left, double right) {
-  return right == 0 ? Failure(kDivisorIsZero) : ValueOr(left / right, kOperatorFailed);
+  return right == 0 ? Failure(kDivisorIsZero) : Checked(left / right, kOperatorFailed);
 }
 
 // Only an exact zero is a zero divisor; one that rounds to zero is an ordinary error.
@@ -30,34 +30,34 @@ Solved Factorial(double x) {
 Solved ApplyOperator(char16_t op, double left, double right) {
   switch (op) {
     case u'+':
-      return ValueOr(left + right, kOperatorFailed);
+      return Checked(left + right, kOperatorFailed);
     case u'-':
-      return ValueOr(left - right, kOperatorFailed);
+      return Checked(left - right, kOperatorFailed);
     case u'*':
     case u'×':
-      return ValueOr(left * right, kOperatorFailed);
+      return Checked(left * right, kOperatorFailed);
     case u'/':
     case u'÷':
       return Quotient(left, right);
     case u'§':
       return Modulo(left, right);
     default:
-      return ValueOr(std::pow(left, right), kOperatorFailed);
+      return Checked(std::pow(left, right), kOperatorFailed);
   }
 }
 
 Solved ApplyPostfix(char16_t postfix, double operand) {
   switch (postfix) {
     case u'²':
-      return ValueIfFinite(std::pow(operand, 2.0));
+      return {kSolved, std::pow(operand, 2.0)};
     case u'³':
-      return ValueIfFinite(std::pow(operand, 3.0));
+      return {kSolved, std::pow(operand, 3.0)};
     case u'!':
       return Factorial(operand);
     case u'°':
-      return ValueIfFinite((operand / 360 + operand / 360) * kPi, kSolvedDegrees);
+      return {kSolvedDegrees, (operand / 360 + operand / 360) * kPi};
     default:
-      return ValueIfFinite(operand / 100);
+      return {kSolved, operand / 100};
   }
 }
 

@@ -34,7 +34,6 @@ struct Function {
 
 /// What a call comes to once its argument is solved. `unwritten` stands for an argument that left
 /// no value.
-[[nodiscard]] Solved CallFunction(const Function& function, const Solved& argument,
-                                  double unwritten);
+[[nodiscard]] Solved CallFunction(const Function& function, Solved argument, double unwritten);
 
 }  // namespace dorvalin

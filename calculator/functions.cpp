@@ -73,9 +73,9 @@ const Function* FindFunction(std::u16string_view name) {
   return found == std::end(kFunctions) ? nullptr : found;
 }
 
-Solved CallFunction(const Function& function, const Solved& argument, double unwritten) {
+Solved CallFunction(const Function& function, Solved argument, double unwritten) {
   if (argument.status != kSolved) return argument;
-  return ValueOr(function.apply(argument.value.value_or(unwritten)), kFunctionFailed);
+  return Checked(function.apply(argument.ValueOr(unwritten)), kFunctionFailed);
 }
 
 }  // namespace dorvalin

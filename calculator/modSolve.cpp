@@ -16,8 +16,8 @@ std::u16string_view Part(std::u16string_view term, int start, int length) {
 }
 
 /// A success without a value changes nothing.
-int HandOver(const Solved& solved, double& result) {
-  if (!solved.Failed() && solved.value) result = *solved.value;
+int HandOver(Solved solved, double& result) {
+  if (!solved.Failed()) result = solved.ValueOr(result);
   return solved.status;
 }
 

@@ -28,13 +28,26 @@ int FindNamed(const CStringDoubleStack* vars, std::u16string_view text) {
   return vars ? vars->ItemFromText(platform::Lower(text)) : 0;
 }
 
+/// Without the caller's words. A number is none of these, which its first character tells.
+std::optional<double> OwnWord(std::u16string_view text, const Words& words) {
+  switch (platform::LowerUnit(text.front())) {
+    case u'a':
+      return IsWord(text, u"ans") ? std::optional(words.ans) : std::nullopt;
+    case u'e':
+      return text == u"e" ? std::optional(std::exp(1.0)) : std::nullopt;
+    case u'p':
+      return IsWord(text, u"pi") ? std::optional(kPi) : std::nullopt;
+    case u'r':
+      return IsWord(text, u"ran") ? std::optional(Random(words.environment.clock)) : std::nullopt;
+    default:
+      return std::nullopt;
+  }
+}
+
 }  // namespace
 
 Solved SolveWord(std::u16string_view text, const Words& words) {
-  if (IsWord(text, u"ran")) return {kSolved, Random(words.environment.clock)};
-  if (IsWord(text, u"pi")) return {kSolved, kPi};
-  if (IsWord(text, u"ans")) return {kSolved, words.ans};
-  if (text == u"e") return {kSolved, std::exp(1.0)};
+  if (const auto own = OwnWord(text, words)) return {kSolved, *own};
   if (const int named = FindNamed(words.vars, text)) return {kSolved, words.vars->ItemValue(named)};
   const auto number = platform::ParseNumber(text, words.environment.numbers);
   return number ? Solved{kSolved, *number} : Failure(kOperatorFailed);

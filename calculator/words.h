@@ -14,7 +14,7 @@ struct Words {
   const SolveEnvironment& environment;
 };
 
-/// Of a text without blanks at its ends.
+/// Of a text that is not empty and has no blanks at its ends.
 [[nodiscard]] Solved SolveWord(std::u16string_view text, const Words& words);
 
 }  // namespace dorvalin
