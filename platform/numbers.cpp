@@ -13,11 +13,12 @@ namespace {
 bool IsDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
 bool IsSign(char16_t unit) { return unit == u'+' || unit == u'-'; }
 
-/// Turns the user's spelling into the one std::from_chars reads, checking it on the way.
+/// Turns the user's spelling into the one std::from_chars reads, checking it on the way. It needs
+/// as much room as the text, which stays the caller's.
 class Spelling {
  public:
-  Spelling(std::u16string_view text, const NumberFormat& format)
-      : rest_(Trim(text)), format_(format), plain_(rest_.size(), '\0') {}
+  Spelling(std::u16string_view text, const NumberFormat& format, char* room)
+      : rest_(Trim(text)), format_(format), plain_(room), end_(room) {}
 
   /// False if the text is no number; `Plain` is then of no use.
   bool Read() {
@@ -27,12 +28,12 @@ class Spelling {
     return (whole || fraction) && TakeExponent() && rest_.empty();
   }
 
-  std::string_view Plain() const { return std::string_view(plain_).substr(0, length_); }
+  std::string_view Plain() const { return {plain_, end_}; }
 
  private:
   bool Sees(char16_t unit) const { return !rest_.empty() && rest_.front() == unit; }
 
-  void Put(char unit) { plain_[length_++] = unit; }
+  void Put(char unit) { *end_++ = unit; }
 
   void Take() {
     Put(static_cast<char>(rest_.front()));
@@ -42,17 +43,13 @@ class Spelling {
   // std::from_chars knows no leading plus.
   void TakeSign() {
     if (Sees(u'-')) Take();
-    if (Sees(u'+') && length_ == 0) rest_.remove_prefix(1);
+    if (Sees(u'+') && end_ == plain_) rest_.remove_prefix(1);
   }
 
   bool TakeDigits() {
-    std::size_t count = 0;
-    char* const out = plain_.data() + length_;
-    for (; count < rest_.size() && IsDigit(rest_[count]); ++count)
-      out[count] = static_cast<char>(rest_[count]);
-    length_ += count;
-    rest_.remove_prefix(count);
-    return count > 0;
+    const char* const before = end_;
+    while (!rest_.empty() && IsDigit(rest_.front())) Take();
+    return end_ != before;
   }
 
   // Grouping is not counted in threes: users leave groups out and type them where they like.
@@ -84,8 +81,8 @@ class Spelling {
 
   std::u16string_view rest_;
   const NumberFormat& format_;
-  std::string plain_;  // never longer than the text
-  std::size_t length_ = 0;
+  char* plain_;
+  char* end_;
 };
 
 std::int64_t ExponentOf(std::string_view digits) {
@@ -109,7 +106,11 @@ bool IsTiny(std::string_view plain) {
 }  // namespace
 
 std::optional<double> ParseNumber(std::u16string_view text, const NumberFormat& format) {
-  Spelling spelling(text, format);
+  // Everyday numbers take no memory from the heap.
+  char room[32];
+  std::string more;
+  if (text.size() > sizeof room) more.resize(text.size());
+  Spelling spelling(text, format, more.empty() ? room : more.data());
   if (!spelling.Read()) return std::nullopt;
   const std::string_view plain = spelling.Plain();
   double value = 0;

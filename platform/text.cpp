@@ -26,9 +26,9 @@ std::u16string Lower(std::u16string_view text) {
 }
 
 std::u16string_view Trim(std::u16string_view text) {
-  const auto first = text.find_first_not_of(u' ');
-  if (first == text.npos) return {};
-  return text.substr(first, text.find_last_not_of(u' ') - first + 1);
+  while (text.starts_with(u' ')) text.remove_prefix(1);
+  while (text.ends_with(u' ')) text.remove_suffix(1);
+  return text;
 }
 
 std::size_t Find(std::u16string_view text, std::u16string_view what, Case compare,
