@@ -43,8 +43,8 @@ void TermMap::MarkBefore(std::u16string_view text) {
       if (last != kNone) At(last).nextAtDepth = i + 1;
     }
     if (kind.mark) mark = i;
-    if (kind.level > 1 || (kind.level == 1 && !MakesSign(before)))
-      cuts[static_cast<std::size_t>(kind.level - 1)] = i;
+    const int level = kind.level == 1 && MakesSign(before) ? 0 : kind.level;
+    cuts = {level == 1 ? i : cuts[0], level == 2 ? i : cuts[1], level == 3 ? i : cuts[2]};
     Place& next = At(i + 1);
     next.depth = depth;
     next.lastCut = cuts;
