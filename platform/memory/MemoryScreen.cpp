@@ -49,25 +49,34 @@ Colour MemoryScreen::SystemColourOf(SystemColour colour) {
 
 Surface MemoryScreen::Compose() {
   Surface screen(size_);
-  FillRect(screen, screen.Area(), background_);
-  for (DesktopWindow* window : desktop_.stack().Order()) {
-    if (window->Shown()) window->Paint(screen);
-  }
+  ComposeInto(screen, screen.Area());
   return screen;
+}
+
+void MemoryScreen::ComposeInto(Surface& screen, const Rect& area) {
+  FillRect(screen, area.Intersected(screen.Area()), background_);
+  for (DesktopWindow* window : desktop_.stack().Order()) {
+    if (window->Shown() && !window->Area().Intersected(area).Empty()) window->Paint(screen);
+  }
+}
+
+const Surface& MemoryScreen::Composed(const Rect& area) {
+  if (scratch_.Size() != size_) scratch_ = Surface(size_);
+  ComposeInto(scratch_, area);
+  return scratch_;
 }
 
 std::optional<Surface> MemoryScreen::Capture(const Rect& area) {
   if (desktop_.faults().Fails("Screen.Capture")) return std::nullopt;
   Surface part(area.Size());
-  const Surface screen = Compose();
-  BitBlt(part, part.Area(), screen, area.Origin(), RasterOp::SrcCopy);
+  BitBlt(part, part.Area(), Composed(area), area.Origin(), RasterOp::SrcCopy);
   return part;
 }
 
 std::optional<Colour> MemoryScreen::ColourAt(Point p) {
   if (desktop_.faults().Fails("Screen.ColourAt")) return std::nullopt;
   if (!Rect::At({0, 0}, size_).Contains(p)) return std::nullopt;
-  return ColourFromPixel(Compose().At(p) & 0xFFFFFF);
+  return ColourFromPixel(Composed(Rect::At(p, {1, 1})).At(p) & 0xFFFFFF);
 }
 
 }  // namespace platform

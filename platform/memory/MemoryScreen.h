@@ -28,7 +28,12 @@ class MemoryScreen : public Screen {
   [[nodiscard]] Surface Compose();
 
  private:
+  void ComposeInto(Surface& screen, const Rect& area);
+  /// The screen, of which only this area is up to date.
+  const Surface& Composed(const Rect& area);
+
   MemoryDesktop& desktop_;
+  Surface scratch_;  ///< kept, since a large one costs more to make than to paint
   platform::Size size_{1024, 768};
   int depth_ = 32;
   Colour background_ = 0xA56E3A;
