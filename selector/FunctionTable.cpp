@@ -4,7 +4,7 @@ namespace dorvalin {
 namespace {
 
 // In the order of the bubbles' pictures.
-constexpr Function kFunctions[kFunctionCount] = {
+constexpr WheelFunction kFunctions[kFunctionCount] = {
     {u"Menü", "DVC_Menu", u"usage_menu"},
     {u"Zeichen", "DVC_Chars", u"features_chars"},
     {u"Rechner", "DVC_Calc", u"features_calc"},
@@ -17,7 +17,7 @@ constexpr Function kFunctions[kFunctionCount] = {
 
 }  // namespace
 
-const Function* FunctionOf(int index) {
+const WheelFunction* FunctionOf(int index) {
   return index >= 1 && index <= kFunctionCount ? &kFunctions[index - 1] : nullptr;
 }
 

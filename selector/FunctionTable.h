@@ -10,13 +10,14 @@ inline constexpr int kFunctionCount = 8;
 inline constexpr int kMenuFunction = 1;
 inline constexpr int kDefaultFunction = 2;
 
-struct Function {
+/// A function as the wheel knows it; the calculator has functions of its own.
+struct WheelFunction {
   std::u16string_view caption;  ///< of the bubble
   std::string_view control;     ///< the panel's name
   std::u16string_view topic;    ///< of its help page
 };
 
 /// Null for an index outside 1 to 8.
-[[nodiscard]] const Function* FunctionOf(int index);
+[[nodiscard]] const WheelFunction* FunctionOf(int index);
 
 }  // namespace dorvalin

@@ -6,7 +6,7 @@
 namespace dorvalin {
 
 std::unique_ptr<Panel> CreatePanel(int index, PanelHost& host) {
-  const Function* function = FunctionOf(index);
+  const WheelFunction* function = FunctionOf(index);
   if (function == nullptr) return nullptr;
   const auto& factories = StateOf<PanelTable>().factories;
   const auto entry = factories.find(function->control);

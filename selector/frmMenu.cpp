@@ -216,7 +216,7 @@ Point frmMenu::MenuPoint(const HostParts& parts) const {
 void frmMenu::DoKeyDown(platform::KeyEvent& event) {
   if (event.virtualKey != platform::key::kF1) return;
   event.handled = true;
-  const Function* function = FunctionOf(Index_);
+  const WheelFunction* function = FunctionOf(Index_);
   ShowHelp(event.modifiers, function == nullptr ? u"main" : function->topic);
 }
 
