@@ -9,12 +9,12 @@ namespace platform {
 /// A point of local wall-clock time, as calendars count it.
 struct DateTime {
   int year = 1601;
-  int month = 1;       ///< 1 to 12
-  int day = 1;         ///< 1 to 31
-  int hour = 0;        ///< 0 to 23
-  int minute = 0;      ///< 0 to 59
-  int second = 0;      ///< 0 to 59
-  int millisecond = 0; ///< 0 to 999
+  int month = 1;        ///< 1 to 12
+  int day = 1;          ///< 1 to 31
+  int hour = 0;         ///< 0 to 23
+  int minute = 0;       ///< 0 to 59
+  int second = 0;       ///< 0 to 59
+  int millisecond = 0;  ///< 0 to 999
   friend auto operator<=>(const DateTime&, const DateTime&) = default;
 };
 

@@ -50,7 +50,8 @@ class Shell {
   [[nodiscard]] virtual std::optional<VersionInformation> Version(std::u16string_view path) = 0;
   [[nodiscard]] virtual std::u16string ExpandEnvironment(std::u16string_view text) = 0;
   [[nodiscard]] virtual std::u16string LogonName() = 0;
-  /// The folder that holds the program, as the system tells it (a drive's root ends in a backslash).
+  /// The folder that holds the program, as the system tells it (a drive's root ends in a
+  /// backslash).
   [[nodiscard]] virtual std::u16string ProgramFolder() = 0;
   /// True in a second process of the same user; the first one is marked by the first call.
   [[nodiscard]] virtual bool PreviousInstance() = 0;

@@ -1,4 +1,5 @@
-// Small operations on UTF-16 text that the whole program shares. One unit is one character position.
+// Small operations on UTF-16 text that the whole program shares. One unit is one character
+// position.
 #pragma once
 
 #include <string>
