@@ -34,6 +34,11 @@ class Lines {
     any_ = true;
   }
 
+  void Clear() {
+    any_ = false;
+    joined_.clear();
+  }
+
   bool Any() const { return any_; }
   std::string_view Bytes() const { return joined_.empty() ? piece_ : joined_; }
 
@@ -74,14 +79,14 @@ class PhraseReader {
  private:
   void KeepElement(std::u16string_view start) {
     if (text_.Any() || rtf_.Any()) {
-      auto phrase = std::make_shared<CPhrase>();
+      auto phrase = std::make_shared_for_overwrite<CPhrase>();
       phrase->Text = TextOf(text_, start);
       phrase->RTFText = TextOf(rtf_, start);
       phrase->Group = group_;
       phrases_.push_back(std::move(phrase));
     }
-    text_ = {};
-    rtf_ = {};
+    text_.Clear();
+    rtf_.Clear();
   }
 
   std::u16string TextOf(const Lines& lines, std::u16string_view start) {
