@@ -1,5 +1,8 @@
 #include "quicktext/phrase_file.h"
 
+#include <algorithm>
+#include <optional>
+
 #include "platform/desktop.h"
 #include "platform/locale.h"
 #include "platform/text.h"
@@ -13,94 +16,92 @@ constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kNextMarker = "#NEXT#";
 constexpr std::string_view kRtfMarker = "#RTF#";
 
-std::string_view TrimBlanks(std::string_view line) {
-  const auto first = line.find_first_not_of(' ');
-  if (first == line.npos) return {};
-  return line.substr(first, line.find_last_not_of(' ') - first + 1);
+/// What the bytes hold in front of their first marker, and behind it.
+struct Section {
+  std::string_view lines;
+  std::string_view marker;  ///< empty without one
+  std::string_view rest;
+};
+
+/// A marker is a line of its own; blanks around it do not count.
+bool CutsAt(std::size_t at, std::string_view marker, std::string_view bytes, Section& section) {
+  auto rest = bytes.substr(at);
+  if (!rest.starts_with(marker)) return false;
+  rest.remove_prefix(marker.size());
+  while (rest.starts_with(' ')) rest.remove_prefix(1);
+  auto lines = bytes.substr(0, at);
+  while (lines.ends_with(' ')) lines.remove_suffix(1);
+  if (!lines.empty() && !lines.ends_with(kLineEnd)) return false;
+  if (!rest.empty() && !rest.starts_with(kLineEnd)) return false;
+  section = {lines, marker, rest.substr(std::min(rest.size(), kLineEnd.size()))};
+  return true;
 }
 
-/// Lines with their breaks. As long as they follow each other in the file they are one piece of it.
-class Lines {
- public:
-  void Add(std::string_view line) {
-    if (!any_) {
-      piece_ = line;
-    } else if (joined_.empty() && piece_.end() + kLineEnd.size() == line.begin()) {
-      piece_ = {piece_.begin(), line.end()};
-    } else {
-      if (joined_.empty()) joined_ = piece_;
-      joined_.append(kLineEnd).append(line);
-    }
-    any_ = true;
+// Most elements hold no number sign, so this goes over them in one step.
+Section CutAtMarker(std::string_view bytes) {
+  Section section;
+  for (auto at = bytes.find('#'); at != bytes.npos; at = bytes.find('#', at + 1)) {
+    if (CutsAt(at, kNextMarker, bytes, section)) return section;
+    if (CutsAt(at, kRtfMarker, bytes, section)) return section;
   }
+  return {.lines = bytes, .marker = {}, .rest = {}};
+}
 
-  void Clear() {
-    any_ = false;
-    joined_.clear();
-  }
-
-  bool Any() const { return any_; }
-  std::string_view Bytes() const { return joined_.empty() ? piece_ : joined_; }
-
- private:
-  bool any_ = false;
-  std::string_view piece_;
-  std::string joined_;
-};
+std::string_view WithoutCutLine(std::string_view bytes) {
+  const auto last = bytes.rfind(kLineEnd);
+  return bytes.substr(0, last == bytes.npos ? 0 : last + kLineEnd.size());
+}
 
 class PhraseReader {
  public:
   explicit PhraseReader(std::u16string_view group) : group_(group) {}
 
-  void ReadLine(std::string_view line) {
-    // Looking at the first character first spares most lines the trimming.
-    const bool mayBeMarker = !line.empty() && (line[0] == '#' || line[0] == ' ');
-    const auto marker = mayBeMarker ? TrimBlanks(line) : std::string_view();
-    if (marker == kNextMarker) {
-      EndElement();
-    } else if (marker == kRtfMarker) {
-      inRtf_ = true;
+  void Add(std::string_view lines) {
+    if (lines.empty()) return;
+    if (lines.ends_with(kLineEnd)) lines.remove_suffix(kLineEnd.size());
+    auto& text = inRtf_ ? rtf_ : text_;
+    if (text) {
+      text->append(u"\r\n").append(locale_.FromAnsi(lines));
     } else {
-      (inRtf_ ? rtf_ : text_).Add(line);
+      text = locale_.FromAnsi(lines);
     }
   }
 
+  void Mark(std::string_view marker) {
+    if (marker == kNextMarker) EndElement();
+    if (marker == kRtfMarker) inRtf_ = true;
+  }
+
   void EndElement() {
-    KeepElement({});
+    if (text_ || rtf_) {
+      auto phrase = std::make_shared_for_overwrite<CPhrase>();
+      if (text_) phrase->Text = std::move(*text_);
+      if (rtf_) phrase->RTFText = std::move(*rtf_);
+      phrase->Group = group_;
+      phrases_.push_back(std::move(phrase));
+    }
+    text_.reset();
+    rtf_.reset();
     inRtf_ = false;
   }
 
   /// Every line brings the break in front of itself, and only the end of the element takes the
   /// first one away again: an element that was not read to its end begins with it.
-  void LeaveElementUnfinished() { KeepElement(u"\r\n"); }
+  void LeaveElementUnfinished() {
+    for (auto* text : {&text_, &rtf_}) {
+      if (*text) (*text)->insert(0, u"\r\n");
+    }
+    EndElement();
+  }
 
   PhraseCollection Take() { return std::move(phrases_); }
 
  private:
-  void KeepElement(std::u16string_view start) {
-    if (text_.Any() || rtf_.Any()) {
-      auto phrase = std::make_shared_for_overwrite<CPhrase>();
-      phrase->Text = TextOf(text_, start);
-      phrase->RTFText = TextOf(rtf_, start);
-      phrase->Group = group_;
-      phrases_.push_back(std::move(phrase));
-    }
-    text_.Clear();
-    rtf_.Clear();
-  }
-
-  std::u16string TextOf(const Lines& lines, std::u16string_view start) {
-    if (!lines.Any()) return {};
-    auto text = locale_.FromAnsi(lines.Bytes());
-    if (!start.empty()) text.insert(0, start);
-    return text;
-  }
-
   platform::Locale& locale_ = TheDesktop().locale();
   std::u16string_view group_;
   PhraseCollection phrases_;
-  Lines text_;
-  Lines rtf_;
+  std::optional<std::u16string> text_;
+  std::optional<std::u16string> rtf_;
   bool inRtf_ = false;
 };
 
@@ -110,12 +111,12 @@ void AppendLine(std::string& bytes, std::string_view line) { bytes.append(line).
 
 PhraseCollection PhrasesFromBytes(std::string_view bytes, FileEnd end, std::u16string_view group) {
   PhraseReader reader(group);
+  if (end == FileEnd::Lost) bytes = WithoutCutLine(bytes);
   while (!bytes.empty()) {
-    const auto length = bytes.find(kLineEnd);
-    const bool isCut = length == bytes.npos && end == FileEnd::Lost;
-    if (isCut) break;
-    reader.ReadLine(bytes.substr(0, length));
-    bytes.remove_prefix(length == bytes.npos ? bytes.size() : length + kLineEnd.size());
+    const Section section = CutAtMarker(bytes);
+    reader.Add(section.lines);
+    reader.Mark(section.marker);
+    bytes = section.rest;
   }
   if (end == FileEnd::Lost) {
     reader.LeaveElementUnfinished();
