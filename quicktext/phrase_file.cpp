@@ -39,12 +39,13 @@ bool CutsAt(std::size_t at, std::string_view marker, std::string_view bytes, Sec
 
 // Most elements hold no number sign, so this goes over them in one step.
 Section CutAtMarker(std::string_view bytes) {
-  Section section;
-  for (auto at = bytes.find('#'); at != bytes.npos; at = bytes.find('#', at + 1)) {
-    if (CutsAt(at, kNextMarker, bytes, section)) return section;
-    if (CutsAt(at, kRtfMarker, bytes, section)) return section;
+  Section section{.lines = bytes, .marker = {}, .rest = {}};
+  auto at = bytes.find('#');
+  while (at != bytes.npos && !CutsAt(at, kNextMarker, bytes, section) &&
+         !CutsAt(at, kRtfMarker, bytes, section)) {
+    at = bytes.find('#', at + 1);
   }
-  return {.lines = bytes, .marker = {}, .rest = {}};
+  return section;
 }
 
 std::string_view WithoutCutLine(std::string_view bytes) {
