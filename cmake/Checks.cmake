@@ -1,17 +1,11 @@
 # What a reader would otherwise have to look for: ctest tells of each as of a test. A check is about
-# the sources, so it runs once, in the native builds; only the headers are divided between both, and
-# what the linker made of the program is looked at where it is linked.
+# the sources, so it runs once, in the native builds; only the headers are divided between both.
 
 set(tools "${PROJECT_SOURCE_DIR}/tools")
 if(NOT CMAKE_CROSSCOMPILING)
   add_test(NAME format COMMAND "${tools}/check-format")
   add_test(NAME layers COMMAND "${tools}/check-layers")
   set_tests_properties(format layers PROPERTIES LABELS check)
-elseif(TARGET Dorvalin)
-  file(GLOB delayed CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/platform/win32/delayed/*.def")
-  add_test(NAME delayed_imports_lead_to_their_libraries
-    COMMAND "${tools}/check-delayed-imports" "$<TARGET_FILE:Dorvalin>" ${delayed})
-  set_tests_properties(delayed_imports_lead_to_their_libraries PROPERTIES LABELS check)
 endif()
 
 if(NOT DORVALIN_SANITIZE)
