@@ -4,10 +4,9 @@ import contextlib
 import time
 
 from stage import StageTest
-from wheel import BUBBLES, PROGRAM, Wheel, find_panel, find_wheel
+from wheel import BUBBLES, PROGRAM, Wheel, find_column, find_panel, find_wheel
 
 KEY = r"HKCU\Software\Tolvo\Dorvalin"
-COLUMN = (47, 312)
 CALCULATOR = 3
 HOLD = 15  # seconds after which a held gesture counts as not recognised on a busy machine
 
@@ -95,7 +94,7 @@ class DorvalinTest(StageTest):
         return next((w for w in self.stage.windows(program=PROGRAM) if w.width == 1), None)
 
     def column(self):
-        return next((w for w in self.stage.windows(program=PROGRAM) if (w.width, w.height) == COLUMN), None)
+        return find_column(self.stage)
 
     def expect_arrived(self, text):
         self.editor.wait_for_text(text, seconds=10)

@@ -4,8 +4,8 @@ job done on a virtual screen: show.py [DISPLAY]"""
 import sys
 
 from stage import Stage
-from stage.ground import ROOT, SCREENSHOTS
-from wheel import open_wheel
+from stage.ground import ROOT, SCREEN_SIZE, SCREENSHOTS
+from wheel import find_column, find_panel, open_wheel
 
 KEY = r"HKCU\Software\Tolvo\Dorvalin"
 
@@ -31,6 +31,7 @@ def show_the_main_job():
         steps.open_the_calculator()
         steps.solve()
         steps.send()
+        steps.reach_the_sidebar()
         print(f"In the editor arrived: {editor.text!r}")
         print(f"Screenshots: {SCREENSHOTS.relative_to(ROOT)}/run-*.png")
     return 0
@@ -64,6 +65,14 @@ class MainJob:
         self.editor.wait_for_text("42", seconds=10)
         self.stage.wait_until_still()
         self._tell("Enter sent the result to the editor", "arrived")
+
+    def reach_the_sidebar(self):
+        right, bottom = SCREEN_SIZE
+        self.stage.pointer.move_to(right - 30, bottom // 2)
+        self.stage.pointer.move_to(right - 1, bottom // 2)
+        self.stage.wait_for(lambda: find_column(self.stage) and find_panel(self.stage), "the sidebar opens", 15)
+        self.stage.wait_until_still()
+        self._tell("The pointer at the right edge opened the sidebar, with the last panel", "sidebar")
 
     def _tell(self, what, name):
         self.count += 1

@@ -7,6 +7,7 @@ from stage.ground import SCREEN_SIZE
 BUBBLES = ("Menü", "Zeichen", "Rechner", "Farben", "Datum/Zeit", "Dateien", "Schnelltext", "Merrowe-Ablage")
 SIDE = 120  # pixels of the wheel's window, which is a square
 RADIUS = 43
+COLUMN = (47, 312)  # pixels of the sidebar's window
 PROGRAM = "Dorvalin.exe"
 
 
@@ -52,6 +53,11 @@ def open_wheel(stage, x, y, active="Zeichen", seconds=15):
 def find_wheel(stage):
     """The wheel's window, or None."""
     return next((w for w in stage.windows(program=PROGRAM) if _is_wheel(w)), None)
+
+
+def find_column(stage):
+    """The sidebar's column of bubbles, or None."""
+    return next((w for w in stage.windows(program=PROGRAM) if (w.width, w.height) == COLUMN), None)
 
 
 def find_panel(stage):
