@@ -11,7 +11,7 @@ namespace dorvalin {
 std::u16string PrepareStoreFolder(std::u16string_view name) {
   const std::u16string delivered = State().AppPath + std::u16string(name);
   const std::u16string applicationData = GetSpecialFolder(kApplicationDataFolder);
-  const std::u16string folder =
+  std::u16string folder =
       applicationData.empty()
           ? delivered
           : JoinPath(applicationData, u"Tolvo\\Dorvalin\\" + std::u16string(name));

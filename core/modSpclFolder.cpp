@@ -37,8 +37,7 @@ std::u16string FromRegistry(int folder) {
   const auto* entry = std::ranges::find(kRegisteredFolders, folder, &RegisteredFolder::folder);
   if (entry == std::end(kRegisteredFolders)) return {};
   if (!entry->commonValue.empty()) {
-    const auto common =
-        RegGetString(kShellFolders, entry->commonValue, {}, RegistryRoot::LocalMachine);
+    auto common = RegGetString(kShellFolders, entry->commonValue, {}, RegistryRoot::LocalMachine);
     if (!common.empty()) return common;
   }
   return RegGetString(kShellFolders, entry->ownValue, {});
