@@ -93,7 +93,8 @@ void KeyBatch::Add(const KeyStroke& stroke) {
 }
 
 bool KeyBatch::Send() {
-  Key(kMarkerKey, kDown);
+  // It has no place on a keyboard; under Wine, asking for it would cost this thread 20 ms.
+  events_.push_back(Event(kMarkerKey, 0, kDown));
   for (const int key : held_ | std::views::reverse) Key(key, kDown);
   if (!held_.empty()) Distract();
   const auto count = static_cast<UINT>(events_.size());
