@@ -136,16 +136,20 @@ TEST_F(Stories, AModalFormInsideAMenuHandler) {
 
   Dialog* dialog = forms.Load(std::make_unique<Dialog>());
   dialog->Window().SetBounds({100, 300, 300, 400});
-  under().Later(200ms, [this] {
-    under().MoveTo(kOurs.Middle());
-    under().Press(Button::Left);
-    under().Release(Button::Left);
+  // The user's clicks are planned from the modal loop itself, however late a busy machine gets
+  // there.
+  std::unique_ptr<platform::Timer> inLoop;
+  inLoop = desktop().pump().NewTimer(50, [&] {
+    inLoop->SetEnabled(false);
+    for (const auto& [delay, at] : {std::pair(200ms, kOurs.Middle()), {600ms, Point{200, 350}}}) {
+      under().Later(delay, [this, at = at] {
+        under().MoveTo(at);
+        under().Press(Button::Left);
+        under().Release(Button::Left);
+      });
+    }
   });
-  under().Later(400ms, [this] {
-    under().MoveTo({200, 350});
-    under().Press(Button::Left);
-    under().Release(Button::Left);
-  });
+  inLoop->SetEnabled(true);
   dialog->ShowModal();
   EXPECT_EQ(dialog->presses, 1);
   EXPECT_FALSE(dialog->Loaded());

@@ -125,6 +125,16 @@ class TargetProgram final : public OtherProgram {
   PROCESS_INFORMATION process_{};
 };
 
+/// Keys that come before the menu is open would go to the window behind it.
+void WaitForMenu() {
+  const auto end = Clock::now() + std::chrono::seconds(10);
+  while (Clock::now() < end) {
+    const HWND menu = ::FindWindowW(L"#32768", nullptr);
+    if (menu && ::IsWindowVisible(menu)) return;
+    std::this_thread::sleep_for(milliseconds(10));
+  }
+}
+
 class WindowsUnderTest final : public DesktopUnderTest {
  public:
   platform::Desktop& desktop() override { return desktop_; }
@@ -151,14 +161,15 @@ class WindowsUnderTest final : public DesktopUnderTest {
     planner_.Add(delay, std::move(act));
   }
   void ChooseInMenu(int place) override {
-    auto at = milliseconds(300);
-    for (int n = 0; n <= place; ++n, at += milliseconds(50)) {
-      const int key = n < place ? VK_DOWN : VK_RETURN;
-      planner_.Add(at, [this, key] {
+    planner_.Add(milliseconds(100), [this, place] {
+      WaitForMenu();
+      for (int n = 0; n <= place; ++n) {
+        std::this_thread::sleep_for(milliseconds(50));
+        const int key = n < place ? VK_DOWN : VK_RETURN;
         KeyDown(key);
         KeyUp(key);
-      });
-    }
+      }
+    });
   }
   void Pump(milliseconds time) override {
     const auto end = Clock::now() + time;
