@@ -73,6 +73,13 @@ class Gestures(DorvalinTest):
         self.stage.pointer.click(left + 20, top + 20)
         self.expect_no_window()
 
+    def test_closing_the_wheel_gives_the_focus_back(self):
+        self.start()
+        wheel = self.call_wheel(*self.editor.middle)
+        self.stage.pointer.click(*wheel.window.middle)
+        self.expect_no_window()
+        self.stage.wait_for(lambda: self.stage.foreground() == self.editor.window, "the editor has the focus")
+
 
 class Host(DorvalinTest):
     def test_set_free_it_delivers_three_times_and_stays(self):

@@ -165,7 +165,8 @@ void frmBG::SetActiveBubble(int index, bool quiet, frmMenu* host) {
     TurnRing(TargetRotation(index, Flipped_));
   }
   OpenHost(index, host);
-  if (Loaded() && Host != nullptr) ShowHost(quiet);
+  // A column that closed meanwhile keeps its new host hidden, for the next time it comes.
+  if (Visible() && Host != nullptr) ShowHost(quiet);
 }
 
 void frmBG::OpenHost(int index, frmMenu* handedIn) {
@@ -174,7 +175,7 @@ void frmBG::OpenHost(int index, frmMenu* handedIn) {
   if (handedIn == nullptr) Host->DoLoad();
   Host->SetVertical(Vertical);
   Host->Init(index, Flipped_, handedIn != nullptr ? frmMenu::Reuse::Yes : frmMenu::Reuse::No);
-  if (Vertical ? Set().AnimateFctnsRightBar : Set().AnimateFctnsNormal) {
+  if (Visible() && (Vertical ? Set().AnimateFctnsRightBar : Set().AnimateFctnsNormal)) {
     Animating_ = true;
     FadeInMenu();
     Animating_ = false;
@@ -373,16 +374,31 @@ platform::DropEffect frmBG::OnDrag(const platform::DragEvent& event) {
   return platform::DropEffect::None;
 }
 
+bool frmBG::IsOurs(const platform::TopWindow* window) const {
+  return window != nullptr &&
+         (window == &Window() || (Host != nullptr && window == &Host->Window()));
+}
+
+bool frmBG::PointerOverOurs() const {
+  const Point pointer = TheDesktop().input().PointerPosition();
+  const bool inside = Window().Bounds().Contains(pointer) ||
+                      (Host != nullptr && Host->Window().Bounds().Contains(pointer));
+  return inside && TheDesktop().windows().WindowAt(pointer) != nullptr;
+}
+
 FocusSample frmBG::SampleFocus() const {
   auto& input = TheDesktop().input();
   const auto foreground = TheDesktop().windows().ForegroundWindow();
-  const bool ours =
-      foreground.ours != nullptr &&
-      (foreground.ours == &Window() || (Host != nullptr && foreground.ours == &Host->Window()));
-  return {.anyButtonDown = input.ButtonDown(Button::Left) || input.ButtonDown(Button::Right) ||
-                           input.ButtonDown(Button::Middle),
-          .oursInForeground = ours,
-          .otherInForeground = foreground.present && !ours};
+  FocusSample sample{.anyButtonDown = input.ButtonDown(Button::Left) ||
+                                      input.ButtonDown(Button::Right) ||
+                                      input.ButtonDown(Button::Middle),
+                     .oursInForeground = IsOurs(foreground.ours)};
+  sample.otherInForeground = foreground.present && !sample.oursInForeground;
+  // A press on a window of ours can be seen before its click has brought the activation here.
+  if (sample.anyButtonDown && sample.otherInForeground && PointerOverOurs()) {
+    sample.otherInForeground = false;
+  }
+  return sample;
 }
 
 SidebarZone frmBG::Zone() const {

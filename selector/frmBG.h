@@ -72,6 +72,8 @@ class frmBG final : public FunctionWheel {
   void Frame(Step step);
 
   [[nodiscard]] BubblePlaces Places() const;
+  [[nodiscard]] bool IsOurs(const platform::TopWindow* window) const;
+  [[nodiscard]] bool PointerOverOurs() const;
   [[nodiscard]] FocusSample SampleFocus() const;
   [[nodiscard]] SidebarZone Zone() const;
 

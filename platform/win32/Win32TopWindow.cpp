@@ -29,6 +29,12 @@ Frame FrameOf(const TopWindowOptions& options) {
   return frame;
 }
 
+constexpr UINT kPassActivationOn = WM_APP + 1;
+
+bool HasExtendedStyle(HWND window, DWORD style) {
+  return (::GetWindowLongPtrW(window, GWL_EXSTYLE) & style) != 0;
+}
+
 // Never shown; a window that it owns has no button in the task bar and yet a whole title bar.
 HWND HiddenOwner() {
   static const HWND owner = ::CreateWindowExW(0, L"STATIC", nullptr, WS_POPUP, 0, 0, 0, 0, nullptr,
@@ -144,6 +150,9 @@ std::optional<LRESULT> Win32TopWindow::Receive(const WindowMessage& message) {
     case WM_ENABLE:
       if (message.wParam && ::GetActiveWindow() == Handle() && !::GetFocus()) RestoreFocus();
       return std::nullopt;
+    case kPassActivationOn:
+      PassActivationOn();
+      return 0;
     case WM_CLOSE:
       topEvents_.OnCloseRequest();
       return 0;
@@ -154,12 +163,26 @@ std::optional<LRESULT> Win32TopWindow::Receive(const WindowMessage& message) {
 
 std::optional<LRESULT> Win32TopWindow::AnswerClick() const {
   // The style alone keeps the system from choosing the window, but not a click from activating it.
-  const auto style = ::GetWindowLongPtrW(Handle(), GWL_EXSTYLE);
-  return (style & WS_EX_NOACTIVATE) != 0 ? std::optional<LRESULT>(MA_NOACTIVATE) : std::nullopt;
+  return Activatable() ? std::nullopt : std::optional<LRESULT>(MA_NOACTIVATE);
+}
+
+bool Win32TopWindow::Activatable() const { return !HasExtendedStyle(Handle(), WS_EX_NOACTIVATE); }
+
+// Wine chooses such a window all the same when the one before it goes. The next one that a user
+// could choose gets the activation then.
+void Win32TopWindow::PassActivationOn() {
+  if (::GetForegroundWindow() != Handle()) return;
+  for (HWND next = Handle(); (next = ::GetWindow(next, GW_HWNDNEXT)) != nullptr;) {
+    if (CanTakeFocus(next) && !HasExtendedStyle(next, WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW)) {
+      BringToForeground(next);
+      return;
+    }
+  }
 }
 
 LRESULT Win32TopWindow::Activated(const WindowMessage& message) {
   const bool gained = LOWORD(message.wParam) != WA_INACTIVE;
+  if (gained && !Activatable()) ::PostMessageW(Handle(), kPassActivationOn, 0, 0);
   gained ? RestoreFocus() : KeepFocus();
   topEvents_.OnActivate(gained ? Activation::Gained : Activation::Lost);
   return 0;

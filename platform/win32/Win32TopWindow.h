@@ -29,6 +29,8 @@ class Win32TopWindow final : public PaneOf<TopWindow> {
   bool PreviewKey(const MSG& message);
 
  private:
+  [[nodiscard]] bool Activatable() const;
+  void PassActivationOn();
   std::optional<LRESULT> AnswerClick() const;
   LRESULT Activated(const WindowMessage& message);
   void KeepFocus();
