@@ -33,9 +33,10 @@ void PaneNode::PaintOn(Surface& screen, const Rect& place, const Rect& clip) {
     BitBlt(screen, part, shown_, part.Origin() - place.Origin(), RasterOp::SrcCopy);
   }
   // The first made is in front, so it is painted last.
-  for (auto child = Children().rbegin(); child != Children().rend(); ++child) {
-    if (!(*child)->OwnVisible()) continue;
-    (*child)->PaintOn(screen, (*child)->Place().Moved(place.Origin()), part);
+  const auto& children = Children();
+  for (std::size_t n = children.size(); n-- > 0;) {
+    MemoryNode& child = *children[n];
+    if (child.OwnVisible()) child.PaintOn(screen, child.Place().Moved(place.Origin()), part);
   }
 }
 

@@ -115,7 +115,8 @@ std::optional<VersionInformation> MemoryShell::Version(std::u16string_view path)
 std::u16string MemoryShell::ExpandEnvironment(std::u16string_view text) {
   std::u16string result(text);
   for (const auto& [name, value] : environment) {
-    result = ReplaceAll(result, u"%" + name + u"%", value, Case::Ignore);
+    const std::u16string variable = std::u16string(u"%").append(name).append(u"%");
+    result = ReplaceAll(result, variable, value, Case::Ignore);
   }
   return result;
 }
