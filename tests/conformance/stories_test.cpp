@@ -136,21 +136,26 @@ TEST_F(Stories, AModalFormInsideAMenuHandler) {
 
   Dialog* dialog = forms.Load(std::make_unique<Dialog>());
   dialog->Window().SetBounds({100, 300, 300, 400});
-  // The user's clicks are planned from the modal loop itself, however late a busy machine gets
-  // there.
-  std::unique_ptr<platform::Timer> inLoop;
-  inLoop = desktop().pump().NewTimer(50, [&] {
-    inLoop->SetEnabled(false);
-    for (const auto& [delay, at] : {std::pair(200ms, kOurs.Middle()), {600ms, Point{200, 350}}}) {
-      under().Later(delay, [this, at = at] {
-        under().MoveTo(at);
-        under().Press(Button::Left);
-        under().Release(Button::Left);
-      });
+  // The user's acts come from the modal loop itself, however late a busy machine gets there: a
+  // click on the form behind, then clicks on the dialog while it stands. A display tells late of
+  // moves, so there is time between a move and its press; and a failure tells more than a hang.
+  int step = 0;
+  const auto inLoop = desktop().pump().NewTimer(300, [&] {
+    const bool press = step % 2 == 1;
+    const Point at = step < 2 ? kOurs.Middle() : Point{200, 350};
+    if (++step > 20) {
+      dialog->Unload();
+      return;
     }
+    under().Later(0ms, [this, press, at] {
+      if (!press) return under().MoveTo(at);
+      under().Press(Button::Left);
+      under().Release(Button::Left);
+    });
   });
   inLoop->SetEnabled(true);
   dialog->ShowModal();
+  inLoop->SetEnabled(false);
   EXPECT_EQ(dialog->presses, 1);
   EXPECT_FALSE(dialog->Loaded());
   EXPECT_EQ(main->presses, 0) << "a click on the form behind went through";
