@@ -69,7 +69,7 @@ class DorvalinTest(StageTest):
         """Types a term, has it solved, and sends the result."""
         self.stage.keyboard.type(term)
         self.stage.keyboard.press("Return")
-        self.stage.wait_for(lambda: self.result_field().text, "the result line shows a result")
+        self.stage.wait_for(lambda: self.fields() and self.result_field().text, "the result line shows a result")
         self.stage.keyboard.press("Return")
 
     @staticmethod
