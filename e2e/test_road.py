@@ -94,7 +94,8 @@ class Host(DorvalinTest):
             self.stage.pointer.click(*self.term_field().middle)
             self.calculate("6*7")
             self.expect_arrived("42" * time)
-            self.assertEqual(find_panel(self.stage), panel)
+            self.stage.wait_for(lambda: find_panel(self.stage) == panel, "the panel stays")
+            self.stage.wait_until_still()
 
     def test_with_stay_after_send_it_stands_free_without_the_focus(self):
         self.start(settings={"StayAfterSend": 1})
