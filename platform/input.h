@@ -23,11 +23,11 @@ namespace key {
 inline constexpr int kBack = 8, kTab = 9, kEnter = 13, kShift = 16, kControl = 17, kAlt = 18;
 inline constexpr int kEscape = 27, kSpace = 32, kPageUp = 33, kPageDown = 34, kEnd = 35, kHome = 36;
 inline constexpr int kLeft = 37, kUp = 38, kRight = 39, kDown = 40, kInsert = 45, kDelete = 46;
-inline constexpr int kF1 = 112, kF2 = 113, kF10 = 121, kF12 = 123, kScrollLock = 145;
+inline constexpr int kF1 = 112, kF2 = 113, kF4 = 115, kScrollLock = 145;
 }  // namespace key
 
 /// One press and release (repeated `count` times): a character unit typed as such, or a virtual key
-/// with modifiers held.
+/// with modifiers held, which mean nothing to a unit.
 struct KeyStroke {
   char16_t unit = 0;  ///< typed as Unicode when `virtualKey` is 0
   int virtualKey = 0;

@@ -1,8 +1,10 @@
 #include "platform/keystrokes.h"
 
-#include <array>
+#include <algorithm>
 #include <charconv>
+#include <iterator>
 #include <string>
+#include <utility>
 
 #include "platform/text.h"
 
@@ -14,31 +16,24 @@ struct NamedKey {
   int virtualKey;
 };
 
-constexpr std::array kNamedKeys = {
-    NamedKey{u"BACKSPACE", key::kBack}, NamedKey{u"BS", key::kBack},
-    NamedKey{u"BKSP", key::kBack},      NamedKey{u"DEL", key::kDelete},
-    NamedKey{u"DELETE", key::kDelete},  NamedKey{u"DOWN", key::kDown},
-    NamedKey{u"END", key::kEnd},        NamedKey{u"ENTER", key::kEnter},
-    NamedKey{u"ESC", key::kEscape},     NamedKey{u"HOME", key::kHome},
-    NamedKey{u"INS", key::kInsert},     NamedKey{u"INSERT", key::kInsert},
-    NamedKey{u"LEFT", key::kLeft},      NamedKey{u"PGDN", key::kPageDown},
-    NamedKey{u"PGUP", key::kPageUp},    NamedKey{u"RIGHT", key::kRight},
-    NamedKey{u"TAB", key::kTab},        NamedKey{u"UP", key::kUp},
+constexpr NamedKey kNamedKeys[] = {
+    {u"DEL", key::kDelete}, {u"DOWN", key::kDown},   {u"END", key::kEnd}, {u"ENTER", key::kEnter},
+    {u"HOME", key::kHome},  {u"LEFT", key::kLeft},   {u"UP", key::kUp},   {u"ESC", key::kEscape},
+    {u"TAB", key::kTab},    {u"RIGHT", key::kRight},
 };
 
 std::optional<int> VirtualKeyOf(std::u16string_view name) {
-  const auto asked = Lower(name);
-  for (const auto& known : kNamedKeys) {
-    if (Lower(known.name) == asked) return known.virtualKey;
-  }
-  if (asked.size() < 2 || asked.size() > 3 || asked[0] != u'f') return std::nullopt;
-  int number = 0;
-  for (char16_t digit : asked.substr(1)) {
-    if (digit < u'0' || digit > u'9') return std::nullopt;
-    number = number * 10 + (digit - u'0');
-  }
-  if (number < 1 || number > 16) return std::nullopt;
-  return key::kF1 + number - 1;
+  const auto known = std::ranges::find(kNamedKeys, name, &NamedKey::name);
+  if (known == std::end(kNamedKeys)) return std::nullopt;
+  return known->virtualKey;
+}
+
+/// The characters that every keyboard has as keys of their own. A dialog box takes a tab, to go to
+/// its next field, only from the key.
+std::optional<int> VirtualKeyOf(char16_t unit) {
+  if (unit == u'\t') return key::kTab;
+  if (unit == u'\r') return key::kEnter;
+  return std::nullopt;
 }
 
 std::optional<int> CountOf(std::u16string_view digits) {
@@ -57,7 +52,6 @@ class Parser {
     while (at_ < keys_.size()) {
       if (!One()) return std::nullopt;
     }
-    if (groupOpen_) return std::nullopt;
     return std::move(strokes_);
   }
 
@@ -77,38 +71,15 @@ class Parser {
         next_.alt = true;
         ++at_;
         return true;
-      case u'(':
-        return OpenGroup();
-      case u')':
-        return CloseGroup();
       case u'{':
         return Braced();
       case u'~':
         ++at_;
-        Press(key::kEnter, 1);
-        return true;
+        return Press(key::kEnter, 1);
       default:
         ++at_;
-        Character(unit, 1);
-        return true;
+        return Character(unit, 1);
     }
-  }
-
-  bool OpenGroup() {
-    if (groupOpen_) return false;
-    groupOpen_ = true;
-    group_ = next_;
-    next_ = {};
-    ++at_;
-    return true;
-  }
-
-  bool CloseGroup() {
-    if (!groupOpen_) return false;
-    groupOpen_ = false;
-    group_ = {};
-    ++at_;
-    return true;
   }
 
   // "{" name-or-character [" " count] "}"; the character itself may be a closing brace.
@@ -125,44 +96,30 @@ class Parser {
       count = *stated;
       content = content.substr(0, blank);
     }
-    if (content.size() == 1) {
-      Character(content[0], count);
-      return true;
-    }
+    if (content.size() == 1) return Character(content[0], count);
     const auto virtualKey = VirtualKeyOf(content);
-    if (virtualKey) Press(*virtualKey, count);
-    return virtualKey.has_value();
+    return virtualKey && Press(*virtualKey, count);
   }
 
-  Modifiers TakeModifiers() {
-    const Modifiers now{group_.shift || next_.shift, group_.control || next_.control,
-                        group_.alt || next_.alt};
-    next_ = {};
-    return now;
+  bool Press(int virtualKey, int count) {
+    strokes_.push_back(
+        {.virtualKey = virtualKey, .modifiers = std::exchange(next_, {}), .count = count});
+    return true;
   }
 
-  void Press(int virtualKey, int count) {
-    strokes_.push_back({.virtualKey = virtualKey, .modifiers = TakeModifiers(), .count = count});
-  }
-
-  // With Ctrl or Alt a letter or digit is a key, not a character: "^v" is a command.
-  void Character(char16_t unit, int count) {
-    const Modifiers modifiers = TakeModifiers();
+  // With a modifier a letter or digit is a key, not a character: "^v" is a command.
+  bool Character(char16_t unit, int count) {
     const char16_t upper = UpperUnit(unit);
-    const bool command = modifiers.control || modifiers.alt;
     const bool hasKey = (upper >= u'A' && upper <= u'Z') || (upper >= u'0' && upper <= u'9');
-    if (command && hasKey) {
-      strokes_.push_back({.virtualKey = upper, .modifiers = modifiers, .count = count});
-    } else {
-      strokes_.push_back({.unit = unit, .modifiers = modifiers, .count = count});
-    }
+    if (const auto virtualKey = VirtualKeyOf(unit)) return Press(*virtualKey, count);
+    if (next_.Any()) return hasKey && Press(upper, count);
+    strokes_.push_back({.unit = unit, .virtualKey = 0, .modifiers = {}, .count = count});
+    return true;
   }
 
   std::u16string_view keys_;
   std::size_t at_ = 0;
   Modifiers next_;
-  Modifiers group_;
-  bool groupOpen_ = false;
   std::vector<KeyStroke> strokes_;
 };
 

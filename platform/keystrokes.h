@@ -1,6 +1,6 @@
-// The keystroke syntax in which texts are typed: plain characters, "^" "+" "%" before a key or a
-// bracketed group for Ctrl, Shift and Alt, "~" for Enter, named keys in braces with an optional
-// count ("{ENTER}", "{LEFT 3}"), and special characters in braces ("{+}", "{{}", "{}}").
+// The keystroke syntax in which texts are typed: plain characters, "^" "+" "%" before a key for
+// Ctrl, Shift and Alt, "~" for Enter, named keys in braces with an optional count ("{ENTER}",
+// "{LEFT 3}"), and special characters in braces ("{+}", "{{}", "{}}").
 #pragma once
 
 #include <optional>

@@ -213,7 +213,7 @@ void MemoryTopWindow::TypeKey(const KeyInput& input) {
   focus_->OnKeyInput(event, true);
   if (event.handled || !Alive() || focus_ == nullptr) return;
   if (input.modifiers.alt && !input.modifiers.control) {
-    if (input.virtualKey == key::kF1 + 3) TopEvents().OnCloseRequest();
+    if (input.virtualKey == key::kF4) TopEvents().OnCloseRequest();
     return;
   }
   CharEvent typed{input.unit};

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <ranges>
 
 namespace platform {
 namespace {
@@ -14,30 +13,28 @@ constexpr DWORD kUp = KEYEVENTF_KEYUP;
 constexpr int kMarkerKey = 0xE8;
 constexpr int kIdleKey = 0x97;
 
-constexpr int kModifierKeys[] = {VK_LSHIFT, VK_RSHIFT, VK_LCONTROL, VK_RCONTROL,
-                                 VK_LMENU,  VK_RMENU,  VK_LWIN,     VK_RWIN};
-
-std::vector<int> HeldModifiers() {
-  std::vector<int> held;
-  std::ranges::copy_if(kModifierKeys, std::back_inserter(held),
-                       [](int key) { return (::GetAsyncKeyState(key) & 0x8000) != 0; });
-  return held;
-}
+/// A key with its place, which is the same on every keyboard.
+struct ModifierKey {
+  int virtualKey;
+  WORD scanCode;
+  DWORD flags;
+};
+constexpr ModifierKey kModifierKeys[] = {
+    {VK_LSHIFT, 0x2A, 0},
+    {VK_RSHIFT, 0x36, 0},
+    {VK_LCONTROL, 0x1D, 0},
+    {VK_RCONTROL, 0x1D, KEYEVENTF_EXTENDEDKEY},
+    {VK_LMENU, 0x38, 0},
+    {VK_RMENU, 0x38, KEYEVENTF_EXTENDEDKEY},
+    {VK_LWIN, 0x5B, KEYEVENTF_EXTENDEDKEY},
+    {VK_RWIN, 0x5C, KEYEVENTF_EXTENDEDKEY},
+};
 
 /// The keys beside the number block, which would otherwise depend on its lock.
 bool IsExtended(int virtualKey) {
-  static constexpr int kExtended[] = {VK_PRIOR,    VK_NEXT,  VK_END,  VK_HOME,   VK_LEFT,
-                                      VK_UP,       VK_RIGHT, VK_DOWN, VK_INSERT, VK_DELETE,
-                                      VK_RCONTROL, VK_RMENU, VK_LWIN, VK_RWIN};
+  static constexpr int kExtended[] = {VK_PRIOR, VK_NEXT,  VK_END,  VK_HOME,   VK_LEFT,
+                                      VK_UP,    VK_RIGHT, VK_DOWN, VK_INSERT, VK_DELETE};
   return std::ranges::find(kExtended, virtualKey) != std::end(kExtended);
-}
-
-/// The key to press; 0 for a character that is typed as such. One with modifiers is a key ("Ctrl
-/// and the dot") where the keyboard has it.
-int KeyOf(const KeyStroke& stroke) {
-  if (stroke.virtualKey != 0 || !stroke.modifiers.Any()) return stroke.virtualKey;
-  const SHORT found = ::VkKeyScanW(static_cast<wchar_t>(stroke.unit));
-  return found == -1 ? 0 : LOBYTE(found);
 }
 
 INPUT Event(int virtualKey, WORD scanCode, DWORD flags) {
@@ -49,13 +46,36 @@ INPUT Event(int virtualKey, WORD scanCode, DWORD flags) {
   return event;
 }
 
-}  // namespace
+using Events = std::vector<INPUT>;
 
-KeyBatch::KeyBatch() : held_(HeldModifiers()) {
-  if (held_.empty()) return;
-  Distract();
-  for (const int key : held_) Key(key, kUp);
+/// Alt or the Windows key pressed and let go with no other key between opens a menu.
+void Distract(Events& events) {
+  events.push_back(Event(kIdleKey, 0, kDown));
+  events.push_back(Event(kIdleKey, 0, kUp));
 }
+
+void MoveModifiers(Events& events, const std::vector<ModifierKey>& keys, DWORD edge) {
+  for (const ModifierKey& key : keys)
+    events.push_back(Event(key.virtualKey, key.scanCode, key.flags | edge));
+}
+
+/// The strokes with the user's modifiers up meanwhile.
+Events WithoutModifiers(const Events& strokes) {
+  std::vector<ModifierKey> held;
+  std::ranges::copy_if(kModifierKeys, std::back_inserter(held), PhysicallyDown,
+                       &ModifierKey::virtualKey);
+  if (held.empty()) return strokes;
+  Events events;
+  events.reserve(strokes.size() + 2 * held.size() + 4);
+  Distract(events);
+  MoveModifiers(events, held, kUp);
+  std::ranges::copy(strokes, std::back_inserter(events));
+  MoveModifiers(events, held, kDown);
+  Distract(events);
+  return events;
+}
+
+}  // namespace
 
 void KeyBatch::Key(int virtualKey, DWORD edge) {
   const UINT scanCode = ::MapVirtualKeyW(static_cast<UINT>(virtualKey), MAPVK_VK_TO_VSC);
@@ -73,53 +93,47 @@ void KeyBatch::Unit(char16_t unit) {
   events_.push_back(Event(0, unit, KEYEVENTF_UNICODE | kUp));
 }
 
-void KeyBatch::Distract() {
-  // Alt or the Windows key pressed and let go with no other key between opens a menu.
-  Press(kIdleKey);
-}
-
 void KeyBatch::Add(const KeyStroke& stroke) {
   ++strokes_;
-  const int virtualKey = KeyOf(stroke);
-  if (virtualKey == 0) return Unit(stroke.unit);
+  halfCharacter_ = stroke.virtualKey == 0 && IS_HIGH_SURROGATE(stroke.unit);
+  if (stroke.virtualKey == 0) return Unit(stroke.unit);
   const Modifiers& with = stroke.modifiers;
   if (with.control) Key(VK_CONTROL, kDown);
   if (with.shift) Key(VK_SHIFT, kDown);
   if (with.alt) Key(VK_MENU, kDown);
-  Press(virtualKey);
+  Press(stroke.virtualKey);
   if (with.alt) Key(VK_MENU, kUp);
   if (with.shift) Key(VK_SHIFT, kUp);
   if (with.control) Key(VK_CONTROL, kUp);
 }
 
-bool KeyBatch::Send() {
-  // It has no place on a keyboard; under Wine, asking for it would cost this thread 20 ms.
-  events_.push_back(Event(kMarkerKey, 0, kDown));
-  for (const int key : held_ | std::views::reverse) Key(key, kDown);
-  if (!held_.empty()) Distract();
-  const auto count = static_cast<UINT>(events_.size());
-  return ::SendInput(count, events_.data(), sizeof(INPUT)) == count;
+void KeyBatch::End() { events_.push_back(Event(kMarkerKey, 0, kDown)); }
+
+bool KeyBatch::Send() const {
+  Events events = WithoutModifiers(events_);
+  const auto count = static_cast<UINT>(events.size());
+  return ::SendInput(count, events.data(), sizeof(INPUT)) == count;
 }
+
+std::vector<KeyBatch> BatchesOf(std::span<const KeyStroke> strokes) {
+  std::vector<KeyBatch> batches;
+  for (const KeyStroke& stroke : strokes) {
+    for (int n = 0; n < stroke.count; ++n) {
+      if (batches.empty() || batches.back().Full()) batches.emplace_back();
+      batches.back().Add(stroke);
+    }
+  }
+  for (KeyBatch& batch : batches) batch.End();
+  return batches;
+}
+
+bool PhysicallyDown(int virtualKey) { return (::GetAsyncKeyState(virtualKey) & 0x8000) != 0; }
 
 bool MarkerTaken() { return (::GetKeyState(kMarkerKey) & 0x8000) != 0; }
 
 void ReleaseMarker() {
   INPUT release = Event(kMarkerKey, 0, kUp);
   ::SendInput(1, &release, sizeof(release));
-}
-
-const KeyStroke& StrokeReader::Next() {
-  const KeyStroke& stroke = rest_.front();
-  if (++done_ >= stroke.count) {
-    rest_ = rest_.subspan(1);
-    done_ = 0;
-    SkipEmpty();
-  }
-  return stroke;
-}
-
-void StrokeReader::SkipEmpty() {
-  while (!rest_.empty() && rest_.front().count <= 0) rest_ = rest_.subspan(1);
 }
 
 }  // namespace platform

@@ -4,6 +4,9 @@ namespace platform {
 namespace {
 
 constexpr DWORD kPollPause = 1;  // ms
+// How long the keyboard may be on its way from our windows to the target's, or from one window of
+// the target's to the next: keys are lost in the moments in which nobody has it.
+constexpr DWORD kActivationWait = 100;
 // For a batch. A program that has not taken it by then never lets its keys be seen (something
 // between swallows the marker), or hangs.
 constexpr DWORD kPatience = 10000;
@@ -50,22 +53,22 @@ class SharedInput {
 
 }  // namespace
 
-void WaitForOtherForeground(DWORD milliseconds) {
-  WaitUntil([] { return OtherForegroundThread() != 0; }, milliseconds);
-}
-
-bool TypingTarget::Take(KeyBatch& batch) {
+bool TypingTarget::Take(const KeyBatch& batch) {
+  WaitUntil([] { return OtherForegroundThread() != 0; }, kActivationWait);
   const DWORD thread = OtherForegroundThread();
   const SharedInput shared(mute_ ? 0 : thread);
+  // A target still at the end of the batch before would be taken for one that is through with this.
+  if (shared) WaitUntil([] { return !MarkerTaken(); }, kBlindPause);
   const bool sent = batch.Send();
-  if (shared) {
-    const auto over = [thread] { return MarkerTaken() || OtherForegroundThread() != thread; };
-    mute_ = !WaitUntil(over, kPatience);
-  } else {
-    ::Sleep(kBlindPause);
-  }
+  if (sent) AwaitEnd(thread, bool(shared));
   ReleaseMarker();
   return sent;
+}
+
+void TypingTarget::AwaitEnd(DWORD thread, bool shared) {
+  if (!shared) return ::Sleep(kBlindPause);
+  const auto over = [thread] { return MarkerTaken() || OtherForegroundThread() != thread; };
+  mute_ = !WaitUntil(over, kPatience);
 }
 
 }  // namespace platform

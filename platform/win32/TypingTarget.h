@@ -5,17 +5,15 @@
 
 namespace platform {
 
-/// Waits, without pumping, until the activation is at another program's window. For the moments in
-/// which no window has it keys are lost. Gives up after `milliseconds`.
-void WaitForOtherForeground(DWORD milliseconds);
-
 class TypingTarget {
  public:
   /// Injects the batch and returns when the program in the foreground has taken it, as far as that
   /// can be seen. False: not all of it was injected.
-  bool Take(KeyBatch& batch);
+  bool Take(const KeyBatch& batch);
 
  private:
+  void AwaitEnd(DWORD thread, bool shared);
+
   bool mute_ = false;  // nothing shows that the target takes its keys
 };
 

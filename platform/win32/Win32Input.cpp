@@ -1,5 +1,7 @@
 #include "platform/win32/Win32Input.h"
 
+#include <algorithm>
+
 #include "platform/win32/KeyBatch.h"
 #include "platform/win32/TypingTarget.h"
 #include "platform/win32/handles.h"
@@ -8,25 +10,18 @@
 namespace platform {
 namespace {
 
-// How long the keyboard may be on its way from our windows to the target's.
-constexpr DWORD kActivationWait = 100;  // ms
-
-bool PhysicallyDown(int virtualKey) { return (::GetAsyncKeyState(virtualKey) & 0x8000) != 0; }
-
 struct Typing {
-  const std::vector<KeyStroke>& strokes;
-  bool complete = true;
+  const std::vector<KeyBatch> batches;
+  bool complete = false;
 };
 
-DWORD WINAPI TypeAll(void* parameter) {
+DWORD WINAPI TypeAll(void* parameter) noexcept {
   auto& typing = *static_cast<Typing*>(parameter);
-  WaitForOtherForeground(kActivationWait);
-  StrokeReader rest(typing.strokes);
   TypingTarget target;
-  while (typing.complete && !rest.AtEnd()) {
-    KeyBatch batch;
-    while (!rest.AtEnd() && !batch.Full()) batch.Add(rest.Next());
-    typing.complete = target.Take(batch);
+  try {
+    typing.complete = std::ranges::all_of(
+        typing.batches, [&](const KeyBatch& batch) { return target.Take(batch); });
+  } catch (...) {  // No memory for a batch; it and what is behind it stay untyped.
   }
   return 0;
 }
@@ -43,15 +38,9 @@ void WaitAnswering(HANDLE thread) {
 
 /// The asynchronous state knows the buttons by their place, the user by what they do.
 int KeyOf(Button button) {
+  if (button == Button::Middle) return VK_MBUTTON;
   const bool swapped = ::GetSystemMetrics(SM_SWAPBUTTON) != 0;
-  switch (button) {
-    case Button::Left:
-      return swapped ? VK_RBUTTON : VK_LBUTTON;
-    case Button::Right:
-      return swapped ? VK_LBUTTON : VK_RBUTTON;
-    default:
-      return VK_MBUTTON;
-  }
+  return (button == Button::Left) == swapped ? VK_RBUTTON : VK_LBUTTON;
 }
 
 }  // namespace
@@ -81,7 +70,7 @@ void Win32Input::InjectKey(int virtualKey, int scanCode, bool extended, KeyEdge 
 bool Win32Input::Type(const std::vector<KeyStroke>& strokes) {
   // On a thread without windows, whose input can be joined with the target's: the pointer over a
   // window of this thread, which does not pump meanwhile, would hold up both.
-  Typing typing{strokes};
+  Typing typing{BatchesOf(strokes)};
   const OwnedKernel thread(::CreateThread(nullptr, 0, TypeAll, &typing, 0, nullptr));
   if (!thread) return false;
   WaitAnswering(thread.get());
