@@ -5,17 +5,6 @@
 namespace platform {
 namespace {
 
-Answer Escape(MessageButtons buttons) {
-  switch (buttons) {
-    case MessageButtons::Ok:
-      return Answer::Ok;
-    case MessageButtons::YesNo:
-      return Answer::No;
-    default:
-      return Answer::Cancel;
-  }
-}
-
 template <class T>
 T TakeFirst(std::deque<T>& queue, T otherwise) {
   if (queue.empty()) return otherwise;
@@ -33,10 +22,10 @@ std::vector<std::u16string> MemoryDialogs::Texts() const {
 }
 
 Answer MemoryDialogs::ShowMessage(const Message& message) {
-  if (faults_.Fails("Dialogs.ShowMessage")) return Escape(message.buttons);
+  if (faults_.Fails("Dialogs.ShowMessage")) return Unanswered(message.buttons);
   shown.push_back(message);
   if (whileShown) whileShown(message);
-  return TakeFirst(answers, Escape(message.buttons));
+  return TakeFirst(answers, Unanswered(message.buttons));
 }
 
 std::optional<FontChoice> MemoryDialogs::ChooseFont(const FontChoice& start, TopWindow*) {

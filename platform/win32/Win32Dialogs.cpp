@@ -5,20 +5,6 @@
 #include "platform/win32/wide.h"
 
 namespace platform {
-namespace {
-
-Answer Unanswered(MessageButtons buttons) {
-  switch (buttons) {
-    case MessageButtons::Ok:
-      return Answer::Ok;
-    case MessageButtons::YesNo:
-      return Answer::No;
-    default:
-      return Answer::Cancel;
-  }
-}
-
-}  // namespace
 
 Answer Win32Dialogs::ShowMessage(const Message& message) {
   const auto style = static_cast<UINT>(message.buttons) | static_cast<UINT>(message.icon);
