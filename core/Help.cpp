@@ -4,8 +4,8 @@
 
 #include "core/ProgramState.h"
 #include "core/frmEmpty.h"
+#include "core/messages.h"
 #include "platform/desktop.h"
-#include "platform/dialogs.h"
 #include "platform/shell.h"
 
 namespace dorvalin {
@@ -13,12 +13,8 @@ namespace dorvalin {
 void OpenHelpTopic(std::u16string_view topic) {
   const std::u16string commandLine =
       u"\"" + State().AppPath + u"TOHelp.exe\" " + std::u16string(topic);
-  auto& desktop = platform::TheDesktop();
-  if (desktop.shell().Run(commandLine)) return;
-  desktop.dialogs().ShowMessage({.text = u"Die Hilfedatei TOHelp.exe konnte nicht geöffnet werden",
-                                 .title = std::u16string(kProductName),
-                                 .icon = platform::MessageIcon::Exclamation,
-                                 .owner = frmEmpty::WindowOrNull()});
+  if (platform::TheDesktop().shell().Run(commandLine)) return;
+  ShowWarning(u"Die Hilfedatei TOHelp.exe konnte nicht geöffnet werden", frmEmpty::WindowOrNull());
 }
 
 void ShowHelp(const platform::Modifiers& shift, std::u16string_view topic) {

@@ -18,6 +18,9 @@ class PanelHost : public platform::Form {
   [[nodiscard]] virtual bool Vertical() const = 0;
   /// Detaches it from its wheel; nothing for a host that is free already.
   virtual void DoFree() = 0;
+  /// Out of the top-most band and back: around anything that must stand in front of the host.
+  void NotInFG() { Window().SetTopMost(false); }
+  void InFG() { Window().SetTopMost(true); }
   /// Runs an operation that the panel publishes under this name. False: there is no panel or it has
   /// no such operation, and nothing happened.
   virtual bool CallPanel(std::string_view operation, int argument = 0) = 0;

@@ -1,7 +1,7 @@
 // The variables of the whole program, in one object that `main` makes and a test makes afresh.
 //
-// `core` declares its own variables here; a module of an upper floor keeps its variables in a
-// struct of its own and reaches the one instance of it with `StateOf<ThatStruct>()`.
+// What several modules share is declared here; what is one module's own it keeps in a struct of its
+// own, whose one instance it reaches with `StateOf<ThatStruct>()`.
 #pragma once
 
 #include <map>
@@ -13,7 +13,7 @@
 
 namespace dorvalin {
 
-/// Copy of the general settings; filled by LoadSettings, changed by the settings dialog alone.
+/// Copy of the general settings; filled by LoadSettings, changed by dialogs, which save it.
 struct Settings {
   bool LeftBtn = false;   ///< gesture: left button held longer
   bool RightBtn = false;  ///< gesture: right button held longer

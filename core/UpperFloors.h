@@ -29,7 +29,9 @@ struct UpperFloors {
 
 UpperFloors& Floors();
 
-/// Loads the form of that name, or brings the loaded one to the front. Null: there is no such form.
+/// The loaded form of that name; null for none.
+[[nodiscard]] platform::Form* FindForm(std::string_view name);
+/// The loaded form of that name, or a new one. Null: there is no such form.
 platform::Form* LoadFormByName(std::string_view name);
 
 /// Sets ModalOpen, shows the form modally, restores ModalOpen. Null does nothing.

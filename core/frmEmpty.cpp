@@ -4,6 +4,7 @@
 #include "core/Help.h"
 #include "core/ProgramState.h"
 #include "core/UpperFloors.h"
+#include "core/messages.h"
 #include "platform/desktop.h"
 #include "platform/shell.h"
 
@@ -120,9 +121,13 @@ void frmEmpty::Run(const PopupAction& action) {
 
 void frmEmpty::ShowDialogOfPanel(std::string_view form) {
   if (!Floors().Forms.contains(form)) return;
+  PanelHost* host = Floors().CurrentPanelForm;
+  if (host == nullptr) return ShowModalGuarded(LoadFormByName(form));
   // The host would disappear with its wheel as soon as the dialog has the focus.
-  if (Floors().CurrentPanelForm != nullptr) Floors().CurrentPanelForm->DoFree();
+  host->DoFree();
+  host->NotInFG();
   ShowModalGuarded(LoadFormByName(form));
+  if (TheForms().Contains(host)) host->InFG();
 }
 
 void frmEmpty::RunTaskEntry(std::string_view entry) {

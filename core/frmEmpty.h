@@ -12,8 +12,6 @@
 
 namespace dorvalin {
 
-inline constexpr std::u16string_view kProductName = u"Tolvo Dorvalin";
-
 class frmEmpty final : public platform::Form {
  public:
   frmEmpty();
@@ -42,6 +40,9 @@ class frmEmpty final : public platform::Form {
  private:
   void OnLoad() override;
   void OnUnload() override;
+  /// Quitting is the only end: Alt+F4 comes here when the task menu has left the keyboard on this
+  /// hidden window, and means the window that the user sees.
+  void OnCloseRequest() override {}
   void TimerTick();
   void OnTaskBar(platform::TaskBarEvent event);
   void PopUpTaskMenu();

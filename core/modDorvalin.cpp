@@ -7,9 +7,9 @@
 #include "core/SettingsStore.h"
 #include "core/UpperFloors.h"
 #include "core/frmEmpty.h"
+#include "core/messages.h"
 #include "platform/data.h"
 #include "platform/desktop.h"
-#include "platform/dialogs.h"
 #include "platform/shell.h"
 
 namespace dorvalin {
@@ -65,9 +65,7 @@ int RegisterColourFormat() {
 StartVerdict Main() {
   LoadSettings();
   if (TheDesktop().shell().PreviousInstance()) {
-    TheDesktop().dialogs().ShowMessage({.text = SecondInstanceNotice(),
-                                        .title = std::u16string(kProductName),
-                                        .icon = platform::MessageIcon::Exclamation});
+    ShowWarning(SecondInstanceNotice());
     return StartVerdict::SecondInstance;
   }
   FillPaths();

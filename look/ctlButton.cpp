@@ -164,7 +164,8 @@ void ctlButton::DrawCaption() {
 
 void ctlButton::Release() {
   Held_ = false;
-  SetPressed(false);
+  Pressed = false;
+  Draw();
 }
 
 void ctlButton::FlashGreen() {

@@ -1,4 +1,4 @@
-// A rounded frame with a soft shadow, drawn round whatever lies in it. Its inside is not painted.
+// A rounded frame with a soft shadow, drawn round whatever lies in it. Its inside is plain.
 //
 // The frame is coloured once, 81 x 81 pixels, from a grey-scale mask; every repaint stretches it.
 #pragma once

@@ -133,7 +133,15 @@ bool Forms::Contains(const Form* form) const {
 
 void Forms::RunUntilEmpty() {
   while (!Empty() && TheDesktop().pump().WaitAndDispatch()) Collect();
+  UnloadAll();
   Collect();
+}
+
+void Forms::UnloadAll() {
+  const auto all = All();
+  for (auto form = all.rbegin(); form != all.rend(); ++form) {
+    if (Contains(*form)) (*form)->Unload();
+  }
 }
 
 bool Forms::LoadForm(std::unique_ptr<Form> form) {

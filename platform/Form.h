@@ -95,8 +95,10 @@ class Forms {
   /// Frees what was unloaded. Only from the top of the loop, when no handler runs.
   void Collect() { retired_.clear(); }
 
-  /// Dispatches until no form is loaded or the desktop ends.
+  /// Dispatches until no form is loaded or the desktop ends, which unloads the rest.
   void RunUntilEmpty();
+  /// The newest first. To be done while what the forms use in their events still stands.
+  void UnloadAll();
 
  private:
   friend class Form;

@@ -1,5 +1,5 @@
-// Decides when an open wheel has lost its reason to be there. The desktop is sampled a thousand
-// times a second; what is to be done comes back.
+// Decides when an open wheel has lost its reason to be there. The desktop is sampled as often as a
+// timer ticks; what is to be done comes back.
 #pragma once
 
 #include "platform/geometry.h"

@@ -18,16 +18,16 @@ constexpr int kBubbleHalf = 16;
 
 Rect Button(int left, int top) { return Rect::At({left, top}, {kHostButton, kHostButton}); }
 
-void LayOutVertical(HostParts& parts, Size client, const HostSizes& sizes, const HostState& state) {
+void LayOutVertical(HostParts& parts, Size client, const HostState& state) {
   const int left = client.width - kFrame - kHostButton;
   parts.btnFree = Button(left, kFrame);
-  parts.btnMenu = Button(left, kFrame + sizes.buttonHeight + 1);
+  parts.btnMenu = Button(left, kFrame + kHostButton + 1);
   parts.showMenu = state.hasMenu;
   parts.showTitle = false;
 }
 
-void LayOutRow(HostParts& parts, Size client, const HostSizes& sizes, const HostState& state) {
-  const int top = state.below ? client.height - kFrame - sizes.buttonHeight : kFrame;
+void LayOutRow(HostParts& parts, Size client, const HostState& state) {
+  const int top = state.below ? client.height - kFrame - kHostButton : kFrame;
   const int closeLeft = client.width - kFrame - kHostButton;
   const int freeLeft = state.menuFunction ? closeLeft : closeLeft - kHostButton - 2;
   parts.btnClose = Button(closeLeft, top);
@@ -38,14 +38,14 @@ void LayOutRow(HostParts& parts, Size client, const HostSizes& sizes, const Host
   parts.showRight = !state.free;
   parts.showMenu = state.hasMenu;
   parts.titleLeft = state.hasMenu ? kFrames + kHostButton + 1 : kFrames;
-  parts.titleMiddle = top + sizes.buttonHeight / 2;
+  parts.titleMiddle = top + kHostButton / 2;
   parts.titleRight = (state.free ? closeLeft : parts.btnRight.left) - kRowGap;
 }
 
 Rect PanelArea(Size client, const HostSizes& sizes, const HostState& state) {
-  const int inner = state.vertical ? client.width - sizes.buttonWidth : client.width;
-  const int row = state.vertical ? 0 : sizes.buttonHeight + kRowGap;
-  const int top = state.vertical || state.below ? kFrame : sizes.buttonHeight + kFrame + kRowGap;
+  const int inner = state.vertical ? client.width - ButtonWidth : client.width;
+  const int row = state.vertical ? 0 : kHostButton + kRowGap;
+  const int top = state.vertical || state.below ? kFrame : kHostButton + kFrame + kRowGap;
   return Rect::At({kFrame, top}, {inner - kFrames, client.height - kFrames - row - sizes.labelRow});
 }
 
@@ -53,11 +53,11 @@ Rect PanelArea(Size client, const HostSizes& sizes, const HostState& state) {
 
 Size HostSize(const HostSizes& sizes, bool vertical) {
   if (vertical) {
-    return {sizes.panel.width + sizes.buttonWidth + kFrames,
+    return {sizes.panel.width + ButtonWidth + kFrames,
             sizes.panel.height + sizes.labelRow + kFrames};
   }
   return {sizes.panel.width + kFrames,
-          sizes.panel.height + sizes.buttonHeight + sizes.labelRow + kFrames + kRowGap};
+          sizes.panel.height + kHostButton + sizes.labelRow + kFrames + kRowGap};
 }
 
 Point PlaceAtRing(Size host, const Rect& ring, bool below, Size screen) {
@@ -80,9 +80,9 @@ HostParts LayOutHost(Size client, const HostSizes& sizes, const HostState& state
   HostParts parts;
   parts.panel = PanelArea(client, sizes, state);
   if (state.vertical) {
-    LayOutVertical(parts, client, sizes, state);
+    LayOutVertical(parts, client, state);
   } else {
-    LayOutRow(parts, client, sizes, state);
+    LayOutRow(parts, client, state);
   }
   const int top = state.below ? parts.panel.bottom : client.height - kFrame - sizes.labelRow;
   parts.labels = {kFrame, top, parts.panel.right, top + sizes.labelRow};
@@ -98,11 +98,11 @@ Point BubbleInHost(const Rect& host, const Rect& wheel, int bubbleY, const HostS
 }
 
 Rect FreedBounds(const Rect& bounds, const HostSizes& sizes, const HostState& state) {
-  const int row = sizes.buttonHeight + kRowGap;
+  const int row = kHostButton + kRowGap;
   Rect freed = bounds;
   if (state.vertical) {
     freed.top -= row;
-    freed.right -= sizes.buttonWidth;
+    freed.right -= ButtonWidth;
   }
   if (state.below) freed = freed.Moved({0, -(row - sizes.labelRow)});
   return freed;

@@ -19,12 +19,11 @@
 namespace dorvalin {
 
 inline constexpr int kHostButton = 17;  ///< pixels, square
+inline constexpr int ButtonWidth = kHostButton + 1;
 
 struct HostSizes {
   platform::Size panel;  ///< what the panel wants
-  int buttonHeight = kHostButton;
-  int buttonWidth = kHostButton + 1;  ///< `ButtonWidth`: one button and its gap
-  int labelRow = 0;                   ///< `LabelRow`: the label's height and 2
+  int labelRow = 0;      ///< `LabelRow`: the label's height and 2
 };
 
 [[nodiscard]] platform::Size HostSize(const HostSizes& sizes, bool vertical);
@@ -62,7 +61,8 @@ struct HostParts {
 [[nodiscard]] platform::Point BubbleInHost(const platform::Rect& host, const platform::Rect& wheel,
                                            int bubbleY, const HostState& state);
 
-/// The bounds of a host that is set free: its panel stays where it was on the screen.
+/// The bounds of a host that is set free: its panel stays where it was on the screen, except that
+/// one above the ring moves down by the row of labels, which goes below it.
 [[nodiscard]] platform::Rect FreedBounds(const platform::Rect& bounds, const HostSizes& sizes,
                                          const HostState& state);
 

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "core/HiResTimer.h"
 #include "core/ProgramState.h"
 #include "core/UpperFloors.h"
 #include "core/modRegTools.h"
@@ -17,6 +18,9 @@ namespace dorvalin {
 namespace {
 
 using platform::TheForms;
+
+// A window that was just hidden is still on the screen for a moment, and in a capture of it.
+constexpr HiResTime kHideTime = HiResSeconds(0.05);
 
 frmBG* ColumnForHandOver(int active) {
   frmBG* column = SideWheel();
@@ -54,7 +58,8 @@ void SwitchSidebar() {
 
 void ShowSidebarNotice() {
   const bool wanted = State().settings.ShowRightBarAtStart;
-  if (State().SidebarOn == wanted) return;
+  // The icon still quits while the question is up; asked twice, the second answer would be lost.
+  if (State().SidebarOn == wanted || FindForm("frmRightBarMsg")) return;
   if (RegGetLong(ProgramKey(u"\\DontShowAgain"), u"ShowRightBarAtStart", 0) != 0) return;
   ShowModalGuarded(TheForms().Load(std::make_unique<frmRightBarMsg>()));
 }
@@ -68,6 +73,7 @@ int SidebarEdge() {
 void HandOver(frmBG& ring, frmMenu& host, const platform::Surface& behindRing, double rotation) {
   const int active = ring.ActiveBubble;
   frmAni* flight = TheForms().Load(std::make_unique<frmAni>());
+  SpinUntil(HiResTimer() + kHideTime);
   if (flight != nullptr) {
     flight->Init({ring.Window().Bounds(), &behindRing, rotation, active});
   }
@@ -81,7 +87,7 @@ void HandOver(frmBG& ring, frmMenu& host, const platform::Surface& behindRing, d
     column->ActiveBubble = 0;
     column->Show(platform::ShowMode::NoActivate);
     column->SetActiveBubble(active, false, &host);
-    if (column->Loaded()) column->WatchFocus();
+    column->WatchFocus();
   }
   // A host that no column took has no wheel that it could belong to.
   if (!host.Free() && (column == nullptr || column->Host != &host)) host.Unload();

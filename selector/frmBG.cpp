@@ -76,7 +76,8 @@ void frmBG::OnLoad() {
 
 void frmBG::OnUnload() {
   Opened = false;
-  // The menu is never remembered as the last function.
+  // The menu is not remembered as the last function, unless the wheel opened on it and nothing else
+  // was used.
   const int last = ActiveBubble > kMenuFunction ? ActiveBubble : LastActive_;
   if (last != 0) RegSetLong(kProgramKey, u"LastFunction", last);
   tmrLooseFocus_->SetEnabled(false);
@@ -94,6 +95,7 @@ bool frmBG::Init(Reuse reuse) {
   if (reuse == Reuse::No) ActiveBubble = 0;
   watch_.ArmedFocus = false;
   InitBG(reuse);
+  if (!Loaded()) return false;
   Window().SetTopMost(true);
   const int last = LastFunction();
   const bool animate = Set().AnimateAtStart && !Set().DontAnimate;
@@ -108,7 +110,7 @@ bool frmBG::Init(Reuse reuse) {
   Radius_ = kRestRadius;
   if (reuse == Reuse::No) {
     SetActiveBubble(last, Vertical);
-    if (Loaded()) WatchFocus();
+    WatchFocus();
   } else {
     DrawMe(false, 255);
   }
@@ -285,7 +287,8 @@ void frmBG::CloseMe() {
   }
   tmrLooseFocus_->SetEnabled(false);
   if (Host != nullptr) Host->Hide();
-  if (!Set().DontAnimate) SlideColumn(Slide::Out);
+  // A delivery has hidden the column before; nobody would see it slide out.
+  if (Visible() && !Set().DontAnimate) SlideColumn(Slide::Out);
   Hide();
   slide_.all = 0;
 }
@@ -296,21 +299,25 @@ void frmBG::ShowMe() {
   if (!Loaded()) return;
   if (Set().AnimateAtStart && !Set().DontAnimate) SlideColumn(Slide::In);
   TheDesktop().pump().DoEvents();
-  if (!Loaded()) return;
-  if (PointerLeftEdge()) {
-    Hide();
-    return;
-  }
+  if (!Visible()) return;
+  if (PointerLeftEdge()) return Hide();
   DrawMe(false, 255);
   if (Host != nullptr) {
     Host->PanelShownAgain();
     if (Set().AnimateFctnsRightBar) FadeInMenu();
   }
+  // A click or a delivery has closed it again while its host faded in.
+  if (!Visible()) return;
   if (Host != nullptr) {
     Host->InFG();
     Host->Show(ShowMode::NoActivate);
   }
-  if (Loaded()) WatchFocus();
+  WatchFocus();
+}
+
+void frmBG::WatchFocus() {
+  // A column that was closed meanwhile stays loaded, without the watch.
+  if (Vertical ? Visible() : Loaded()) tmrLooseFocus_->SetEnabled(true);
 }
 
 bool frmBG::PointerLeftEdge() const {
@@ -422,10 +429,12 @@ void frmBG::LooseFocusTick() {
 }
 
 void frmBG::SetInLine() {
-  tmrMouseOut_->SetEnabled(false);
-  tmrLooseFocus_->SetEnabled(false);
   frmMenu* kept = std::exchange(Host, nullptr);
   if (kept == nullptr) return;
+  tmrMouseOut_->SetEnabled(false);
+  tmrLooseFocus_->SetEnabled(false);
+  // It goes in any case; no click during the pumps may open another panel on it.
+  Animating_ = true;
   kept->Hide();
   TheDesktop().pump().DoEvents();
   if (Loaded() && kept->Loaded()) return HandOver(*this, *kept, picBG_, Rotation_);

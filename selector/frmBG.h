@@ -24,7 +24,7 @@ class frmBG final : public FunctionWheel {
   frmMenu* Host = nullptr;
 
   enum class Reuse { No, Yes };
-  /// Opens it. False: the pointer left the edge while the column slid in, and it is unloaded.
+  /// Opens it. False: it was unloaded meanwhile, a column also because the pointer left the edge.
   bool Init(Reuse reuse);
   /// Positions the window and captures the screen under it.
   void InitBG(Reuse reuse);
@@ -43,8 +43,8 @@ class frmBG final : public FunctionWheel {
   [[nodiscard]] platform::Point BubbleCentre(int index) const;
   /// Hands the open panel over to the sidebar.
   void SetInLine();
-  /// Starts the watch over focus and pointer.
-  void WatchFocus() { tmrLooseFocus_->SetEnabled(true); }
+  /// Starts the watch over focus and pointer, unless it was closed meanwhile.
+  void WatchFocus();
 
  private:
   void OnLoad() override;

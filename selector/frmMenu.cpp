@@ -6,7 +6,7 @@
 #include "core/Help.h"
 #include "core/ProgramState.h"
 #include "core/UpperFloors.h"
-#include "core/frmEmpty.h"
+#include "core/messages.h"
 #include "look/modMixBlt.h"
 #include "platform/desktop.h"
 #include "platform/dialogs.h"
@@ -85,7 +85,9 @@ void frmMenu::DoLoad() {
       FollowAddress();
     };
   }
-  LabelRow_ = TheDesktop().text().Measure(kAddress, LinkFont()).height + 2;
+  const Size address = TheDesktop().text().Measure(kAddress, LinkFont());
+  AddressWidth_ = address.width + 2;
+  LabelRow_ = address.height + 2;
 }
 
 HostSizes frmMenu::Sizes() const {
@@ -135,12 +137,11 @@ void frmMenu::PlaceControls(const HostParts& parts) {
   place(*btnFree_, parts.btnFree, !state_.free && !state_.menuFunction);
   place(*btnMenu_, parts.btnMenu, parts.showMenu);
   if (aCtrl_) aCtrl_->Move(parts.panel);
-  const int middle = parts.labels.Middle().x;
-  if (lblHelp_) lblHelp_->SetBounds({5, parts.labels.top + 1, middle, parts.labels.bottom - 1});
-  if (lblAddress_) {
-    lblAddress_->SetBounds(
-        {middle, parts.labels.top + 1, parts.labels.right - 2, parts.labels.bottom - 1});
-  }
+  // The address is no wider than its text: a press beside it means nothing.
+  const Rect row{5, parts.labels.top + 1, parts.labels.right - 2, parts.labels.bottom - 1};
+  const int address = std::max(row.right - AddressWidth_, row.Middle().x);
+  if (lblHelp_) lblHelp_->SetBounds({row.left, row.top, row.Middle().x, row.bottom});
+  if (lblAddress_) lblAddress_->SetBounds({address, row.top, row.right, row.bottom});
 }
 
 void frmMenu::Paint(const HostParts& parts) {
@@ -207,7 +208,7 @@ void frmMenu::PopUpPanelMenu() {
 
 Point frmMenu::MenuPoint(const HostParts& parts) const {
   if (state_.vertical) {
-    return {parts.panel.Width() + Sizes().buttonWidth - 5, parts.btnMenu.bottom + 1};
+    return {parts.panel.Width() + ButtonWidth - 5, parts.btnMenu.bottom + 1};
   }
   if (state_.below) return {0, Window().ClientSize().height - parts.panel.top - 5};
   return {0, -4};
@@ -223,7 +224,6 @@ void frmMenu::DoKeyDown(platform::KeyEvent& event) {
 void frmMenu::OnMouseDown(platform::Button button, const platform::MouseEvent& event) {
   const int titleRow = LayOutHost(Window().ClientSize(), Sizes(), state_).btnClose.bottom;
   if (!state_.free || button != platform::Button::Left || event.at.y >= titleRow) return;
-  Window().ReleaseCapture();
   Window().StartMove();
 }
 
@@ -231,8 +231,7 @@ void frmMenu::FollowAddress() {
   // The host must not vanish behind the browser.
   if (Index_ != kMenuFunction) DoFree();
   State().ModalOpen = true;
-  auto& dialogs = TheDesktop().dialogs();
-  const auto answer = dialogs.ShowMessage(
+  const auto answer = TheDesktop().dialogs().ShowMessage(
       {.text =
            u"Wenn Sie diesen Link verwenden, wird Ihr Browser geladen, der ggf. eine Verbindung "
            u"zum Internet herstellt, durch die möglicherweise Verbindungskosten entstehen. Für "
@@ -243,11 +242,10 @@ void frmMenu::FollowAddress() {
        .icon = platform::MessageIcon::Information,
        .owner = &Window()});
   if (answer == platform::Answer::Ok && !OpenInBrowser(kAddress)) {
-    dialogs.ShowMessage({.text = u"Ihr Browser konnte nicht gestartet werden oder es wurde kein "
-                                 u"unterstützter Browser gefunden.",
-                         .title = std::u16string(kProductName),
-                         .icon = platform::MessageIcon::Exclamation,
-                         .owner = &Window()});
+    ShowWarning(
+        u"Ihr Browser konnte nicht gestartet werden oder es wurde kein unterstützter Browser "
+        u"gefunden.",
+        &Window());
   }
   State().ModalOpen = false;
 }

@@ -34,9 +34,6 @@ class frmMenu final : public PanelHost {
   /// wheel; the wheel shows it. `below`: the wheel lies in the screen's lower half, the host above
   /// it.
   void Init(int index, bool below, Reuse reuse);
-  /// Out of the top-most band and back: around anything that must stand in front of the host.
-  void NotInFG() { Window().SetTopMost(false); }
-  void InFG() { Window().SetTopMost(true); }
 
   bool CallPanel(std::string_view operation, int argument) override;
   void PanelShownAgain();
@@ -63,6 +60,7 @@ class frmMenu final : public PanelHost {
   int Index_ = 0;
   HostState state_;
   int LabelRow_ = 0;
+  int AddressWidth_ = 0;
   std::unique_ptr<Panel> aCtrl_;
   std::unique_ptr<ctlButton> btnClose_, btnFree_, btnMenu_, btnRight_;
   std::unique_ptr<platform::Label> lblHelp_, lblAddress_;

@@ -69,6 +69,7 @@ void frmRight::OnMouseMove(const platform::MouseEvent&) {
 
 void frmRight::DelayTick() {
   tmrDelay_->SetEnabled(false);
+  if (!Visible()) return;
   if (TheDesktop().input().PointerPosition().x >= Window().Bounds().left) ShowRightBar();
 }
 

@@ -2,7 +2,7 @@
 
 #include "core/ProgramState.h"
 #include "core/SettingsStore.h"
-#include "core/frmEmpty.h"
+#include "core/messages.h"
 #include "core/modRegTools.h"
 #include "platform/desktop.h"
 #include "platform/drawing.h"
@@ -57,12 +57,14 @@ void frmRightBarMsg::OnLoad() {
       Window(), Rect::At({right - kButton.width - 8, buttonTop}, kButton), u"Ja");
   btnCancel_ =
       std::make_unique<ctlButton>(Window(), Rect::At({right, buttonTop}, kButton), u"Nein");
+  // It asks at the end, when free hosts may stand in its place.
+  Window().SetTopMost(true);
   btnOK_->Click = [this] { AnswerWith(true); };
   btnCancel_->Click = [this] { AnswerWith(false); };
   AddTabStop(chkDSA_.get());
   AddTabStop(btnOK_->Window());
   AddTabStop(btnCancel_->Window());
-  // The answer that keeps the setting has the keyboard.
+  // The answer that agrees with what the user switched by hand has the keyboard.
   PutFirst(State().settings.ShowRightBarAtStart ? btnCancel_->Window() : btnOK_->Window());
 }
 

@@ -164,6 +164,30 @@ TEST_F(TheEnd, ComesWithEverythingOpenAndTheLastFunctionIsStored) {
   EXPECT_EQ(RegGetLong(kProgramKey, u"LastFunction", 0), 6);
 }
 
+// A session that ends takes the message loop away while everything is open.
+TEST_F(TheEnd, OfTheDesktopTakesWhatIsOpenAlong) {
+  Start();
+  OpenSidebar();
+  user.MoveTo({300, 400});
+  OpenPanel(u"Rechner");
+  desktop.pump().End();
+  TheForms().RunUntilEmpty();
+  ExpectNothingLeft();
+}
+
+// The second answer was lost, and with it the wish not to be asked again.
+TEST_F(TheEnd, IsAskedForOnceHoweverOftenTheUserQuits) {
+  Start();
+  ChooseInTaskMenu(u"Seitenleiste aktivieren");
+  user.Later(50ms, [&] { Quit(); });
+  user.Later(100ms, [&] {
+    EXPECT_TRUE(TheForms().Empty()) << "the second one ends it without another question";
+  });
+  Quit();
+  user.Wait(200ms);
+  ExpectNothingLeft();
+}
+
 struct NoticeCase {
   const char* name;
   bool atStart, switched, leftAlone;

@@ -43,6 +43,17 @@ TEST_F(TheTaskMenu, OpensHelpAndTheWindowsThatAreThere) {
   EXPECT_EQ(SeenForms().size(), 1u);
 }
 
+// The menu leaves the keyboard on the hidden form.
+TEST_F(TheTaskMenu, AltF4BehindItEndsNothing) {
+  desktop.menus().Dismiss();
+  desktop.taskBar().Happens(TaskBarEvent::RightUp);
+  user.Wait(0ms);
+  user.Key(platform::key::kF4, {.alt = true});
+  EXPECT_TRUE(desktop.taskBar().HasIcon());
+  OpenWheel();
+  EXPECT_NE(Ring(), nullptr);
+}
+
 TEST_F(TheTaskMenu, ALeftClickOpensTheWheel) {
   desktop.taskBar().Happens(TaskBarEvent::LeftUp);
   user.Wait(0ms);
@@ -109,15 +120,17 @@ TEST_F(APanelsMenu, SetsTheHostFreeBeforeADialog) {
   EXPECT_FALSE(host->Free()) << "there is no such dialog";
   Floors().Forms["frmPhraseGroups"] = [] { return std::make_unique<frmRightBarMsg>(); };
   bool modal = false;
+  const auto& window = dynamic_cast<platform::MemoryTopWindow&>(host->Window());
   user.Later(100ms, [&] {
     modal = state.ModalOpen && host->Free();
+    EXPECT_FALSE(window.TopMost()) << "the host stands in front of the dialog";
     desktop.input().HandKey(platform::key::kEscape, platform::Input::KeyEdge::Down);
   });
   Choose(u"Schnelltextgruppen...");
   user.Wait(100ms);
   EXPECT_TRUE(modal);
   EXPECT_FALSE(state.ModalOpen);
-  EXPECT_TRUE(host->Visible());
+  EXPECT_TRUE(host->Visible() && window.TopMost());
 }
 
 TEST(PopupMenus, MarkOneAccessKeyAnEntry) {

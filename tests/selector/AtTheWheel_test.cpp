@@ -290,21 +290,38 @@ TEST_F(AtTheWheel, AWindowThatCannotBeMadeLeavesNothingBehind) {
 }
 
 // A second click can wait in the queue while the hand-over empties it.
-TEST_F(AtTheWheel, AHandOverWhoseRingIsClosedMeanwhileLeavesNoHiddenHost) {
+TEST_F(AtTheWheel, AClickDuringTheHandOverNeitherClosesTheRingNorOpensAnotherPanel) {
+  for (const bool onBubble : {false, true}) {
+    StoreLastFunction(3);
+    OpenWheel();
+    auto& input = desktop.input();
+    const Point button = HostButton(*Host(), u"An Bildschirmrand")->OnScreen().Middle();
+    const Point second = onBubble ? Bubble(*Ring(), u"Farben") : Empty(*Ring());
+    for (const Point at : {button, second}) {
+      input.HandMoves(at);
+      input.HandPresses(Button::Left);
+      input.HandReleases(Button::Left);
+    }
+    user.Wait(1s);
+    EXPECT_EQ(Ring(), nullptr);
+    ASSERT_NE(Column(), nullptr);
+    EXPECT_EQ(Column()->ActiveBubble, 3);
+    ASSERT_EQ(Hosts().size(), 1u);
+    EXPECT_EQ(Column()->Host, Hosts()[0]);
+    Column()->Unload();
+  }
+}
+
+TEST_F(AtTheWheel, AHandOverInWhichTheProgramQuitsLeavesNothing) {
   StoreLastFunction(3);
   OpenWheel();
   auto& input = desktop.input();
-  const Point button = HostButton(*Host(), u"An Bildschirmrand")->OnScreen().Middle();
-  const Point middle = Empty(*Ring());
-  input.HandMoves(button);
+  input.HandMoves(HostButton(*Host(), u"An Bildschirmrand")->OnScreen().Middle());
   input.HandPresses(Button::Left);
   input.HandReleases(Button::Left);
-  input.HandMoves(middle);
-  input.HandPresses(Button::Left);
-  input.HandReleases(Button::Left);
-  user.Wait(100ms);
-  EXPECT_EQ(Ring(), nullptr);
-  EXPECT_TRUE(Hosts().empty());
+  desktop.pump().Post([] { frmEmpty::Instance()->Quit(); });
+  user.Wait(1s);
+  EXPECT_TRUE(platform::TheForms().Empty());
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // Stories of the column at the right edge of the screen.
 #include "selector/Sidebar.h"
 
+#include "core/Delivery.h"
 #include "core/modRegTools.h"
 #include "selector/frmRightBarMsg.h"
 #include "tests/support/Program.h"
@@ -90,6 +91,14 @@ TEST_F(AtTheSidebar, TheEdgeIsWholeOrItsMiddleThird) {
   EXPECT_EQ(EdgeArea(0, {1024, 768}), (Rect{1023, 0, 1024, 768}));
   EXPECT_EQ(EdgeArea(1, {1024, 768}), (Rect{1023, 256, 1024, 512}));
   EXPECT_EQ(EdgeArea(7, {1024, 768}), std::nullopt);
+  {
+    Program unknown;
+    unknown.Store(u"RightBarArea", 7);
+    ASSERT_EQ(unknown.Start(), StartVerdict::Resident);
+    unknown.user.Wait(500ms);
+    EXPECT_EQ(unknown.Column(), nullptr)
+        << "an edge without a place took every pointer for its own";
+  }
   Store(u"RightBarArea", 1);
   StartIn(0);
   user.MoveTo({1023, 100});
@@ -119,6 +128,32 @@ TEST_F(AtTheSidebar, TheTargetKeepsTheFocusAndTheColumnGoesWithThePointer) {
   EXPECT_EQ(Host(), host) << "it comes back with the panel as it was";
   EXPECT_TRUE(host->Visible());
   EXPECT_TRUE(EditorIsActive());
+}
+
+// Its panel was left standing alone.
+TEST_F(AtTheSidebar, ClosedWhileItsPanelFadesInItStaysClosed) {
+  StartIn(0);
+  user.MoveTo(kEdge);
+  user.Wait(50ms);
+  frmMenu* host = Host();
+  for (const bool delivers : {false, true}) {
+    SCOPED_TRACE(delivers ? "by a delivery" : "by a click beside the bubbles");
+    Leave();
+    ASSERT_FALSE(ColumnIsSeen());
+    user.Later(200ms, [&] {
+      ASSERT_TRUE(ColumnIsSeen());
+      if (delivers) return SendToTarget(u"x", *host, false, 0);
+      // Between bubbles, clear of the host.
+      desktop.input().HandMoves(Column()->Window().Bounds().Origin() + Point{44, 36});
+      desktop.input().HandPresses(Button::Left);
+      desktop.input().HandReleases(Button::Left);
+    });
+    user.MoveTo(kEdge);
+    user.Wait(50ms);
+    EXPECT_FALSE(ColumnIsSeen());
+    EXPECT_FALSE(host->Visible());
+    EXPECT_TRUE(EditorIsActive());
+  }
 }
 
 TEST_F(AtTheSidebar, ADragHoldsItAndAMenuHoldsIt) {

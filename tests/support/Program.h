@@ -32,6 +32,7 @@ using platform::Button;
 class Program {
  public:
   Program();
+  ~Program() { platform::TheForms().UnloadAll(); }
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
 
