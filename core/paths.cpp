@@ -18,9 +18,7 @@ using platform::TheDesktop;
 std::u16string Numeral(long number, int base) {
   char digits[24];
   const auto end = std::to_chars(std::begin(digits), std::end(digits), number, base).ptr;
-  std::u16string text(std::begin(digits), end);
-  std::ranges::transform(text, text.begin(), platform::UpperUnit);
-  return text;
+  return platform::Upper(std::u16string(std::begin(digits), end));
 }
 
 std::u16string WithBackslash(std::u16string_view folder) {

@@ -2,15 +2,13 @@
 #include <array>
 #include <cstdint>
 
+#include "platform/singlebyte.h"
 #include "platform/text.h"
 
 namespace platform {
 namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
-
-bool IsHighSurrogate(char32_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
-bool IsLowSurrogate(char32_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
 /// The character at a position; moves the position behind it.
 char32_t NextFromUtf16(std::u16string_view text, std::size_t& at) {
@@ -80,7 +78,7 @@ constexpr std::array<char16_t, 32> kWindows1252 = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-char ByteOf(char32_t c) {
+char ByteOf(char16_t c) {
   if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) return static_cast<char>(c);
   const auto hit = std::ranges::find(kWindows1252, c);
   return hit == kWindows1252.end() ? '?' : static_cast<char>(0x80 + (hit - kWindows1252.begin()));
@@ -112,16 +110,7 @@ std::u16string FromUtf8(std::string_view text) {
   return result;
 }
 
-std::string ToWindows1252(std::u16string_view text) {
-  std::string result(text.size(), '\0');
-  auto out = result.begin();
-  for (std::size_t at = 0; at < text.size();) {
-    // Nearly everything is ASCII.
-    *out++ = text[at] < 0x80 ? static_cast<char>(text[at++]) : ByteOf(NextFromUtf16(text, at));
-  }
-  result.erase(out, result.end());
-  return result;
-}
+std::string ToWindows1252(std::u16string_view text) { return ToSingleByte(text, ByteOf); }
 
 std::u16string FromWindows1252(std::string_view bytes) {
   std::u16string result(bytes.size(), u'\0');

@@ -25,6 +25,12 @@ std::u16string Lower(std::u16string_view text) {
   return result;
 }
 
+std::u16string Upper(std::u16string_view text) {
+  std::u16string result(text);
+  std::ranges::transform(result, result.begin(), UpperUnit);
+  return result;
+}
+
 std::u16string_view Trim(std::u16string_view text) {
   while (text.starts_with(u' ')) text.remove_prefix(1);
   while (text.ends_with(u' ')) text.remove_suffix(1);

@@ -12,6 +12,7 @@ namespace platform {
 [[nodiscard]] char16_t LowerUnit(char16_t unit);
 [[nodiscard]] char16_t UpperUnit(char16_t unit);
 [[nodiscard]] std::u16string Lower(std::u16string_view text);
+[[nodiscard]] std::u16string Upper(std::u16string_view text);
 
 /// Without the blanks (code 32 only) at both ends.
 [[nodiscard]] std::u16string_view Trim(std::u16string_view text);

@@ -6,11 +6,7 @@
 
 namespace platform {
 
-std::u16string NameKey(std::u16string_view name) {
-  std::u16string key(name);
-  std::ranges::transform(key, key.begin(), UpperUnit);
-  return key;
-}
+std::u16string NameKey(std::u16string_view name) { return Upper(name); }
 
 bool SameName(std::u16string_view a, std::u16string_view b) {
   return std::ranges::equal(a, b, {}, UpperUnit, UpperUnit);

@@ -36,6 +36,7 @@ TEST(Text, LettersFindTheirOtherCaseAndBack) {
     EXPECT_EQ(LowerUnit(other), other) << ToUtf8({&other, 1});
     EXPECT_EQ(UpperUnit(other), other) << ToUtf8({&other, 1});
   }
+  EXPECT_EQ(Upper(u"größe 5 €"), u"GRÖßE 5 €");
   for (char32_t unit = 0; unit < 0x10000; ++unit) {
     const auto letter = static_cast<char16_t>(unit);
     EXPECT_EQ(LowerUnit(LowerUnit(letter)), LowerUnit(letter)) << int(unit);
