@@ -21,7 +21,11 @@ struct FolderEntry {
   std::u16string name;  ///< without the folder
   std::uint32_t attributes = 0;
   std::uint64_t size = 0;
-  DateTime modified;  ///< local time
+  // Local times.
+  DateTime modified;
+  DateTime created;
+  DateTime accessed;
+  std::u16string shortName;  ///< the 8.3 name; empty where the name is one itself, or has none
   bool IsFolder() const { return (attributes & kAttributeFolder) != 0; }
 };
 
@@ -38,7 +42,10 @@ struct Drive {
   char16_t letter = u'C';
   DriveKind kind = DriveKind::Unknown;
   bool ready = false;
-  std::u16string volumeName;  ///< empty for a removable drive: it is never asked
+  // Of a drive that is ready.
+  std::u16string volumeName;
+  std::u16string fileSystem;  ///< "NTFS"
+  std::uint32_t serialNumber = 0;
 };
 
 class Files {
@@ -57,8 +64,14 @@ class Files {
   [[nodiscard]] virtual bool Delete(std::u16string_view path) = 0;
   /// Overwrites the target. On failure the target is as it was or gone.
   [[nodiscard]] virtual bool Copy(std::u16string_view source, std::u16string_view target) = 0;
+  /// Renames a file or folder, or moves it within its drive. A name that exists is never
+  /// overwritten, and another spelling of the same name is taken over. On failure nothing changed.
+  [[nodiscard]] virtual bool Rename(std::u16string_view from, std::u16string_view to) = 0;
   [[nodiscard]] virtual bool CreateFolder(std::u16string_view path) = 0;
+  /// Removable drives are not asked whether there is a medium in them: they are not ready here.
   [[nodiscard]] virtual std::vector<Drive> Drives() = 0;
+  /// One drive, asked whatever its kind; none where there is no such drive.
+  [[nodiscard]] virtual std::optional<Drive> DriveAt(char16_t letter) = 0;
 };
 
 }  // namespace platform

@@ -20,22 +20,55 @@ SplitName SplitLast(std::u16string_view path) {
   return {path.substr(0, static_cast<std::size_t>(name.data() - path.data())), name};
 }
 
+bool IsForbidden(char16_t unit) {
+  return unit < u' ' || std::u16string_view(u"<>:\"/|?*").find(unit) != std::u16string_view::npos;
+}
+
 bool NameIsAllowed(std::u16string_view name) {
-  return !name.empty() && std::ranges::none_of(name, [](char16_t unit) {
-    return unit < u' ' || std::u16string_view(u"<>:\"/|?*").find(unit) != std::u16string_view::npos;
-  });
+  return !name.empty() && std::ranges::none_of(name, IsForbidden);
+}
+
+/// Numbered 1 whatever else is in the folder: nothing is opened by it here.
+std::u16string ShortNameOf(std::u16string_view name) {
+  const auto dot = std::min(name.rfind(u'.'), name.size());
+  std::u16string_view extension = name.substr(std::min(dot + 1, name.size()));
+  const bool isShort = dot <= 8 && extension.size() <= 3 && name.find(u' ') == name.npos;
+  if (isShort) return {};
+  std::u16string result = Upper(name.substr(0, dot));
+  std::erase(result, u' ');
+  result = result.substr(0, 6) + u"~1";
+  if (!extension.empty()) result.append(u".").append(Upper(extension.substr(0, 3)));
+  return result;
+}
+
+FolderEntry NewEntry(std::u16string_view name, std::uint32_t attributes, const DateTime& now) {
+  return {std::u16string(name), attributes, 0, now, now, now, ShortNameOf(name)};
+}
+
+/// What a drive says of itself: nothing of its medium where it has none or is not asked for it.
+Drive DriveData(const Drive& drive, bool isAsked) {
+  if (drive.ready && isAsked) return drive;
+  Drive silent;
+  silent.letter = drive.letter;
+  silent.kind = drive.kind;
+  return silent;
+}
+
+/// Has one of the attributes.
+bool HasAny(const FolderEntry& entry, std::uint32_t attributes) {
+  return (entry.attributes & attributes) != 0;
 }
 
 }  // namespace
 
 MemoryFiles::MemoryFiles(Faults& faults, Clock& clock) : faults_(faults), clock_(clock) {
-  AddDrive({u'C', DriveKind::Fixed, true, u"System"});
+  AddDrive({u'C', DriveKind::Fixed, true, u"System", u"NTFS", 0x1234ABCD});
 }
 
 void MemoryFiles::AddDrive(const Drive& drive) {
   Volume& volume = volumes_[drive.letter];
   volume.drive = drive;
-  volume.root.entry = {{}, kAttributeFolder, 0, clock_.Now()};
+  volume.root.entry = NewEntry({}, kAttributeFolder, clock_.Now());
 }
 
 MemoryFiles::Node* MemoryFiles::FindNode(std::u16string_view path) {
@@ -57,16 +90,20 @@ MemoryFiles::Node* MemoryFiles::FindNode(std::u16string_view path) {
 MemoryFiles::Node* MemoryFiles::MakeNode(Node& folder, std::u16string_view name,
                                          std::uint32_t attributes) {
   Node& node = folder.children[NameKey(name)];
-  node.entry = {std::u16string(name), attributes, 0, clock_.Now()};
+  node.entry = NewEntry(name, attributes, clock_.Now());
   return &node;
+}
+
+MemoryFiles::Node* MemoryFiles::FolderFor(std::u16string_view path) {
+  const auto [folder, name] = SplitLast(path);
+  Node* parent = FindNode(folder);
+  return parent && parent->entry.IsFolder() && NameIsAllowed(name) ? parent : nullptr;
 }
 
 MemoryFiles::Node* MemoryFiles::MakeFile(std::u16string_view path) {
   if (Node* old = FindNode(path)) return old->entry.IsFolder() ? nullptr : old;
-  const auto [folder, name] = SplitLast(path);
-  Node* parent = FindNode(folder);
-  if (!parent || !parent->entry.IsFolder() || !NameIsAllowed(name)) return nullptr;
-  return MakeNode(*parent, name, kAttributeArchive);
+  Node* parent = FolderFor(path);
+  return parent ? MakeNode(*parent, SplitLast(path).name, kAttributeArchive) : nullptr;
 }
 
 void MemoryFiles::Put(std::u16string_view path, std::string_view bytes) {
@@ -124,8 +161,8 @@ std::vector<FolderEntry> MemoryFiles::List(std::u16string_view pattern) {
   };
   const bool isRoot = PathParts(path).size() == 1;
   if (!isRoot) {
-    offer({u".", kAttributeFolder, 0, folder->entry.modified});
-    offer({u"..", kAttributeFolder, 0, folder->entry.modified});
+    offer(NewEntry(u".", kAttributeFolder, folder->entry.modified));
+    offer(NewEntry(u"..", kAttributeFolder, folder->entry.modified));
   }
   for (const auto& [key, child] : folder->children) offer(child.entry);
   return entries;
@@ -144,7 +181,7 @@ FileStatus MemoryFiles::Write(std::u16string_view path, std::string_view bytes) 
   const auto failure = faults_.Ask("Files.Write");
   if (failure && failure->status == FileStatus::CannotOpen) return FileStatus::CannotOpen;
   Node* file = MakeFile(path);
-  if (!file || (file->entry.attributes & kAttributeReadOnly) != 0) return FileStatus::CannotOpen;
+  if (!file || HasAny(file->entry, kAttributeReadOnly)) return FileStatus::CannotOpen;
   file->bytes = failure ? bytes.substr(0, failure->bytesDone) : bytes;
   file->entry.size = file->bytes.size();
   file->entry.modified = clock_.Now();
@@ -154,9 +191,7 @@ FileStatus MemoryFiles::Write(std::u16string_view path, std::string_view bytes) 
 bool MemoryFiles::Delete(std::u16string_view path) {
   if (faults_.Fails("Files.Delete")) return false;
   const Node* file = FindNode(path);
-  if (!file || (file->entry.attributes & (kAttributeReadOnly | kAttributeFolder)) != 0) {
-    return false;
-  }
+  if (!file || HasAny(file->entry, kAttributeReadOnly | kAttributeFolder)) return false;
   Remove(path);
   return true;
 }
@@ -168,30 +203,56 @@ bool MemoryFiles::Copy(std::u16string_view source, std::u16string_view target) {
   const FolderEntry properties = from->entry;
   const std::string bytes = from->bytes;
   Node* to = MakeFile(target);
-  if (!to || to == from || (to->entry.attributes & kAttributeReadOnly) != 0) return false;
+  if (!to || to == from) return false;
+  if (HasAny(to->entry, kAttributeReadOnly | kAttributeHidden)) return false;
   to->bytes = bytes;
-  to->entry = {to->entry.name, properties.attributes, properties.size, properties.modified};
+  to->entry.attributes = properties.attributes;
+  to->entry.size = properties.size;
+  to->entry.modified = properties.modified;
+  return true;
+}
+
+bool MemoryFiles::Rename(std::u16string_view from, std::u16string_view to) {
+  if (faults_.Fails("Files.Rename")) return false;
+  const Node* node = FindNode(from);
+  const Node* taken = FindNode(to);
+  Node* target = FolderFor(to);
+  const auto [oldFolder, oldName] = SplitLast(from);
+  Node* source = FindNode(oldFolder);
+  if (!node || !source || !target || (taken && taken != node)) return false;
+  const bool isIntoItself = NameKey(to).starts_with(NameKey(from) + u"\\");
+  if (isIntoItself || UpperUnit(from[0]) != UpperUnit(to[0])) return false;
+  auto moved = source->children.extract(NameKey(oldName));
+  const auto newName = SplitLast(to).name;
+  moved.key() = NameKey(newName);
+  moved.mapped().entry.name = newName;
+  moved.mapped().entry.shortName = ShortNameOf(newName);
+  target->children.insert(std::move(moved));
   return true;
 }
 
 bool MemoryFiles::CreateFolder(std::u16string_view path) {
   if (faults_.Fails("Files.CreateFolder") || FindNode(path)) return false;
-  const auto [folder, name] = SplitLast(path);
-  Node* parent = FindNode(folder);
-  if (!parent || !parent->entry.IsFolder() || !NameIsAllowed(name)) return false;
-  MakeNode(*parent, name, kAttributeFolder);
-  return true;
+  Node* parent = FolderFor(path);
+  if (parent) MakeNode(*parent, SplitLast(path).name, kAttributeFolder);
+  return parent != nullptr;
 }
 
 std::vector<platform::Drive> MemoryFiles::Drives() {
   std::vector<Drive> drives;
   if (faults_.Fails("Files.Drives")) return drives;
   for (const auto& [letter, volume] : volumes_) {
-    drives.push_back(volume.drive);
-    const bool isRemovable = volume.drive.kind == DriveKind::Removable;
-    if (isRemovable || !volume.drive.ready) drives.back().volumeName.clear();
+    const bool isAsked = volume.drive.kind != DriveKind::Removable;
+    drives.push_back(DriveData(volume.drive, isAsked));
   }
   return drives;
+}
+
+std::optional<Drive> MemoryFiles::DriveAt(char16_t letter) {
+  if (faults_.Fails("Files.DriveAt")) return std::nullopt;
+  const auto volume = volumes_.find(UpperUnit(letter));
+  if (volume == volumes_.end()) return std::nullopt;
+  return DriveData(volume->second.drive, true);
 }
 
 }  // namespace platform

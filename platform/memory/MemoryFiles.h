@@ -38,8 +38,10 @@ class MemoryFiles : public Files {
   FileStatus Write(std::u16string_view path, std::string_view bytes) override;
   bool Delete(std::u16string_view path) override;
   bool Copy(std::u16string_view source, std::u16string_view target) override;
+  bool Rename(std::u16string_view from, std::u16string_view to) override;
   bool CreateFolder(std::u16string_view path) override;
   std::vector<platform::Drive> Drives() override;
+  std::optional<Drive> DriveAt(char16_t letter) override;
 
  private:
   struct Node {
@@ -56,8 +58,10 @@ class MemoryFiles : public Files {
   const Node* FindNode(std::u16string_view path) const {
     return const_cast<MemoryFiles*>(this)->FindNode(path);
   }
-  /// The file of that name, new if need be. Null where its folder is missing, its name is not
-  /// allowed or the name is a folder's.
+  /// The folder in which something of that name can be made. Null where it is missing or the name
+  /// is not allowed.
+  Node* FolderFor(std::u16string_view path);
+  /// The file of that name, new if need be. Null where it cannot be made or the name is a folder's.
   Node* MakeFile(std::u16string_view path);
   Node* MakeNode(Node& folder, std::u16string_view name, std::uint32_t attributes);
 

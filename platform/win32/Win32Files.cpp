@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <new>
 
+#include "platform/text.h"
 #include "platform/win32/handles.h"
 #include "platform/win32/times.h"
 #include "platform/win32/wide.h"
@@ -32,6 +33,9 @@ FolderEntry EntryOf(const WIN32_FIND_DATAW& found) {
   entry.attributes = found.dwFileAttributes;
   entry.size = (std::uint64_t{found.nFileSizeHigh} << 32) | found.nFileSizeLow;
   entry.modified = LocalTimeOf(found.ftLastWriteTime);
+  entry.created = LocalTimeOf(found.ftCreationTime);
+  entry.accessed = LocalTimeOf(found.ftLastAccessTime);
+  entry.shortName = Text(found.cAlternateFileName);
   return entry;
 }
 
@@ -58,6 +62,19 @@ bool WriteAll(HANDLE file, std::string_view bytes) {
   return true;
 }
 
+bool Move(std::u16string_view from, std::u16string_view to) {
+  return ::MoveFileExW(Terminated(from), Terminated(to), 0) != 0;
+}
+
+/// By way of another name: Wine does nothing where it finds the file itself under the new one.
+bool ChangeCase(std::u16string_view from, std::u16string_view to) {
+  const std::u16string between = std::u16string(to) + u".~renamed";
+  if (!Move(from, between)) return false;
+  if (Move(between, to)) return true;
+  (void)Move(between, from);
+  return false;
+}
+
 DriveKind KindOf(UINT driveType) {
   switch (driveType) {
     case DRIVE_REMOVABLE:
@@ -75,16 +92,30 @@ DriveKind KindOf(UINT driveType) {
   }
 }
 
-Drive DriveOf(char16_t letter) {
-  const wchar_t root[] = {static_cast<wchar_t>(letter), L':', L'\\', L'\0'};
-  Drive drive{letter, KindOf(::GetDriveTypeW(root)), false, {}};
-  // Asking would start up the drive, and there may be no medium in it.
-  if (drive.kind == DriveKind::Removable) return drive;
-  wchar_t name[MAX_PATH + 1] = {};
-  drive.ready =
-      ::GetVolumeInformationW(root, name, MAX_PATH + 1, nullptr, nullptr, nullptr, nullptr, 0) != 0;
-  if (drive.ready) drive.volumeName = Text(name);
+std::u16string RootOf(char16_t letter) { return {letter, u':', u'\\'}; }
+
+Drive DriveOfKind(char16_t letter) {
+  Drive drive;
+  drive.letter = letter;
+  drive.kind = KindOf(::GetDriveTypeW(Terminated(RootOf(letter))));
   return drive;
+}
+
+void AskVolume(Drive& drive) {
+  constexpr DWORD kRoom = MAX_PATH + 1;
+  wchar_t name[kRoom] = {};
+  wchar_t fileSystem[kRoom] = {};
+  DWORD serialNumber = 0;
+  drive.ready = ::GetVolumeInformationW(Terminated(RootOf(drive.letter)), name, kRoom,
+                                        &serialNumber, nullptr, nullptr, fileSystem, kRoom) != 0;
+  if (!drive.ready) return;
+  drive.volumeName = Text(name);
+  drive.fileSystem = Text(fileSystem);
+  drive.serialNumber = serialNumber;
+}
+
+bool IsPresent(char16_t letter) {
+  return letter >= u'A' && letter <= u'Z' && ((::GetLogicalDrives() >> (letter - u'A')) & 1) != 0;
 }
 
 }  // namespace
@@ -143,17 +174,31 @@ bool Win32Files::Copy(std::u16string_view source, std::u16string_view target) {
   return ::CopyFileW(Terminated(source), Terminated(target), FALSE) != 0;
 }
 
+bool Win32Files::Rename(std::u16string_view from, std::u16string_view to) {
+  const bool isSameName = Lower(from) == Lower(to) && from != to;
+  return isSameName ? ChangeCase(from, to) : Move(from, to);
+}
+
 bool Win32Files::CreateFolder(std::u16string_view path) {
   return ::CreateDirectoryW(Terminated(path), nullptr) != 0;
 }
 
 std::vector<Drive> Win32Files::Drives() {
   std::vector<Drive> drives;
-  const DWORD present = ::GetLogicalDrives();
   for (char16_t letter = u'A'; letter <= u'Z'; ++letter) {
-    if ((present >> (letter - u'A')) & 1) drives.push_back(DriveOf(letter));
+    if (!IsPresent(letter)) continue;
+    Drive& drive = drives.emplace_back(DriveOfKind(letter));
+    // Asking would start up the drive, and there may be no medium in it.
+    if (drive.kind != DriveKind::Removable) AskVolume(drive);
   }
   return drives;
+}
+
+std::optional<Drive> Win32Files::DriveAt(char16_t letter) {
+  if (!IsPresent(UpperUnit(letter))) return {};
+  Drive drive = DriveOfKind(UpperUnit(letter));
+  AskVolume(drive);
+  return drive;
 }
 
 }  // namespace platform

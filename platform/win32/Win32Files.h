@@ -14,8 +14,10 @@ class Win32Files final : public Files {
   FileStatus Write(std::u16string_view path, std::string_view bytes) override;
   bool Delete(std::u16string_view path) override;
   bool Copy(std::u16string_view source, std::u16string_view target) override;
+  bool Rename(std::u16string_view from, std::u16string_view to) override;
   bool CreateFolder(std::u16string_view path) override;
   std::vector<Drive> Drives() override;
+  std::optional<Drive> DriveAt(char16_t letter) override;
 };
 
 }  // namespace platform
