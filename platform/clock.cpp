@@ -11,4 +11,10 @@ int DayOfWeek(const DateTime& date) {
   return sundayBased == 0 ? 7 : sundayBased;
 }
 
+int DaysInMonth(int month, int year) {
+  const bool isLeapYear = (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
+  if (month == 2) return isLeapYear ? 29 : 28;
+  return month == 4 || month == 6 || month == 9 || month == 11 ? 30 : 31;
+}
+
 }  // namespace platform

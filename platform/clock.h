@@ -21,6 +21,8 @@ struct DateTime {
 /// Monday is 1, Sunday 7.
 [[nodiscard]] int DayOfWeek(const DateTime& date);
 
+[[nodiscard]] int DaysInMonth(int month, int year);
+
 [[nodiscard]] inline double SecondsSinceMidnight(const DateTime& t) {
   return t.hour * 3600.0 + t.minute * 60.0 + t.second + t.millisecond / 1000.0;
 }

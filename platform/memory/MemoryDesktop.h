@@ -63,7 +63,7 @@ class MemoryDesktop : public Desktop {
   MemoryDialogs dialogs_{faults_};
   MemoryFiles files_{faults_, clock_};
   MemoryInput input_{*this};
-  MemoryLocale locale_;
+  MemoryLocale locale_{faults_, clock_};
   MemoryMenus menus_{*this};
   MemoryPictures pictures_{files_};
   MemoryRegistry registry_{faults_};

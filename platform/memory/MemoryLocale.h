@@ -2,13 +2,18 @@
 #pragma once
 
 #include "platform/locale.h"
+#include "platform/memory/Faults.h"
 
 namespace platform {
+
+struct Calendar;
 
 enum class Language { German, English };
 
 class MemoryLocale : public Locale {
  public:
+  MemoryLocale(Faults& faults, Clock& clock) : faults_(faults), clock_(clock) {}
+
   void Use(Language language) { language_ = language; }
 
   NumberFormat Numbers() override;
@@ -17,11 +22,17 @@ class MemoryLocale : public Locale {
   std::u16string ShortDate(const DateTime& when) override;
   std::u16string LongTime(const DateTime& when) override;
   std::u16string ShortTime(const DateTime& when) override;
+  std::optional<DateTime> ParseDate(std::u16string_view text) override;
+  std::optional<DateTime> ParseTime(std::u16string_view text) override;
   std::string ToAnsi(std::u16string_view text) override;
   std::u16string FromAnsi(std::string_view bytes) override;
 
  private:
   bool German() const { return language_ == Language::German; }
+  const Calendar& CalendarInUse() const;
+
+  Faults& faults_;
+  Clock& clock_;
   Language language_ = Language::German;
 };
 

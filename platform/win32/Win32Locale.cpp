@@ -1,8 +1,9 @@
 #include "platform/win32/Win32Locale.h"
 
 #include <algorithm>
+#include <cmath>
 
-#include "platform/text.h"
+#include "platform/singlebyte.h"
 #include "platform/win32/times.h"
 #include "platform/win32/wide.h"
 
@@ -32,6 +33,38 @@ std::u16string Time(const DateTime& when, DWORD flags) {
   return Text(text);
 }
 
+/// What a text says of a day and a time, as the days since the one that the system counts from.
+std::optional<DATE> DaysOf(std::u16string_view text) {
+  // Not constant for the sake of the system's type; it does not write.
+  std::u16string own(text);
+  DATE days = 0;
+  if (FAILED(::VarDateFromStr(WideBuffer(own), LOCALE_USER_DEFAULT, 0, &days))) return {};
+  return days;
+}
+
+/// The calendar's day of such a number; none before the calendar's first.
+std::optional<DateTime> DateOf(DATE days) {
+  constexpr double kFirstDay = -109205;
+  constexpr std::uint64_t kTicksPerDay = 864'000'000'000;
+  // The time of day is the fraction on both sides of zero, never a part of the whole number.
+  const double day = std::trunc(days) - kFirstDay;
+  if (day < 0) return {};
+  const std::uint64_t ticks = static_cast<std::uint64_t>(day) * kTicksPerDay;
+  const FILETIME time{static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32)};
+  SYSTEMTIME parts{};
+  if (!::FileTimeToSystemTime(&time, &parts)) return {};
+  return DateTimeOf(parts);
+}
+
+DateTime TimeOf(DATE days) {
+  const long seconds = std::lround(std::abs(days - std::trunc(days)) * 24 * 60 * 60);
+  DateTime time;
+  time.hour = static_cast<int>(seconds / 3600);
+  time.minute = static_cast<int>(seconds / 60 % 60);
+  time.second = static_cast<int>(seconds % 60);
+  return time;
+}
+
 /// The page on which every byte is one character: the machine's own, or Western European where that
 /// one has characters of several bytes.
 UINT SingleBytePage() {
@@ -45,9 +78,6 @@ char16_t UnitOf(UINT page, char byte) {
   ::MultiByteToWideChar(page, 0, &byte, 1, &unit, 1);
   return static_cast<char16_t>(unit);
 }
-
-bool IsHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
-bool IsLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
 }  // namespace
 
@@ -81,6 +111,18 @@ std::u16string Win32Locale::LongTime(const DateTime& when) { return Time(when, 0
 
 std::u16string Win32Locale::ShortTime(const DateTime& when) { return Time(when, TIME_NOSECONDS); }
 
+std::optional<DateTime> Win32Locale::ParseDate(std::u16string_view text) {
+  const auto days = DaysOf(text);
+  // A time alone is read as one of the day that the system counts from.
+  const bool namesDate = days && std::trunc(*days) != 0;
+  return namesDate ? DateOf(*days) : std::nullopt;
+}
+
+std::optional<DateTime> Win32Locale::ParseTime(std::u16string_view text) {
+  const auto days = DaysOf(text);
+  return days ? std::optional(TimeOf(*days)) : std::nullopt;
+}
+
 char Win32Locale::ByteOf(char16_t unit) const {
   const auto at = std::ranges::lower_bound(bytes_, std::pair{unit, char{}},
                                            [](auto a, auto b) { return a.first < b.first; });
@@ -88,16 +130,7 @@ char Win32Locale::ByteOf(char16_t unit) const {
 }
 
 std::string Win32Locale::ToAnsi(std::u16string_view text) {
-  std::string bytes;
-  bytes.reserve(text.size());
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    bytes.push_back(ByteOf(text[i]));
-    // The two units of a pair are one character that the page lacks.
-    const bool pair =
-        IsHighSurrogate(text[i]) && i + 1 < text.size() && IsLowSurrogate(text[i + 1]);
-    if (pair) ++i;
-  }
-  return bytes;
+  return ToSingleByte(text, [this](char16_t unit) { return ByteOf(unit); });
 }
 
 std::u16string Win32Locale::FromAnsi(std::string_view bytes) {

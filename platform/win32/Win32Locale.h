@@ -16,6 +16,8 @@ class Win32Locale final : public Locale {
   std::u16string ShortDate(const DateTime& when) override;
   std::u16string LongTime(const DateTime& when) override;
   std::u16string ShortTime(const DateTime& when) override;
+  std::optional<DateTime> ParseDate(std::u16string_view text) override;
+  std::optional<DateTime> ParseTime(std::u16string_view text) override;
   std::string ToAnsi(std::u16string_view text) override;
   std::u16string FromAnsi(std::string_view bytes) override;
 

@@ -41,7 +41,7 @@ class DataDesktop : public Desktop {
   MemoryClock clock_;
   MemoryDialogs dialogs_{faults_};
   MemoryFiles files_{faults_, clock_};
-  MemoryLocale locale_;
+  MemoryLocale locale_{faults_, clock_};
   MemoryPictures pictures_{files_};
   MemoryRegistry registry_{faults_};
   MemoryShell shell_{faults_, files_};
