@@ -6,6 +6,7 @@
 
 #include "platform/drawing.h"
 #include "platform/memory/glyphs.h"
+#include "platform/memory/names.h"
 
 namespace platform {
 namespace {
@@ -174,6 +175,21 @@ void MemoryTextDrawing::Paint(Surface& surface, const Rect& area, std::u16string
     }
     y += lineHeight;
   }
+}
+
+std::vector<std::u16string> MemoryTextDrawing::Faces() {
+  std::vector<std::u16string> names;
+  if (faults_.Fails("Text.Faces")) return names;
+  for (const auto& [face, charset] : faces) names.push_back(face);
+  return names;
+}
+
+ResolvedFace MemoryTextDrawing::Resolve(const Font& font) {
+  if (faults_.Fails("Text.Resolve") || faces.empty()) return {};
+  const auto known = std::ranges::find_if(
+      faces, [&](const auto& face) { return SameName(face.first, font.face); });
+  const auto& [face, charset] = known != faces.end() ? *known : *faces.begin();
+  return {face, charset};
 }
 
 Size MemoryTextDrawing::Measure(std::u16string_view text, const Font& font) {

@@ -2,6 +2,7 @@
 // scaled by the font's size; bold thickens, italic leans.
 #pragma once
 
+#include <map>
 #include <vector>
 
 #include "platform/memory/Faults.h"
@@ -13,6 +14,13 @@ class MemoryTextDrawing : public TextDrawing {
  public:
   explicit MemoryTextDrawing(Faults& faults) : faults_(faults) {}
 
+  /// The faces and their charsets, which a test may set. Any other font becomes the first of them.
+  std::map<std::u16string, int> faces{{u"Arial", 0},         {u"Courier New", 0},
+                                      {u"MS Sans Serif", 0}, {u"Symbol", kSymbolCharset},
+                                      {u"Tahoma", 0},        {u"Times New Roman", 0}};
+
+  std::vector<std::u16string> Faces() override;
+  ResolvedFace Resolve(const Font& font) override;
   Size Measure(std::u16string_view text, const Font& font) override;
   int MeasureHeight(std::u16string_view text, const Font& font, int width) override;
   void Draw(Surface& surface, const Rect& area, std::u16string_view text, const Font& font,

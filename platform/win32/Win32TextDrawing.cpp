@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/text.h"
 #include "platform/win32/DibMemory.h"
 #include "platform/win32/fonts.h"
 #include "platform/win32/wide.h"
@@ -45,6 +46,15 @@ int TopFor(TextFormat::Vertical vertical, const Rect& area, int height) {
   }
 }
 
+int CALLBACK AddFace(const LOGFONTW* description, const TEXTMETRICW*, DWORD, LPARAM list) {
+  const std::u16string_view face = View(description->lfFaceName);
+  // With "@" in front a face is turned for vertical writing.
+  if (!face.starts_with(u'@')) {
+    reinterpret_cast<std::vector<std::u16string>*>(list)->emplace_back(face);
+  }
+  return TRUE;
+}
+
 /// Draws only inside the area while it lives.
 class Clipped {
  public:
@@ -68,6 +78,25 @@ HFONT Win32TextDrawing::HandleOf(const Font& font) {
   if (known != fonts_.end()) return known->second.get();
   if (fonts_.size() == kMostFonts) fonts_.erase(fonts_.begin());
   return fonts_.emplace_back(font, NewFont(font)).second.get();
+}
+
+std::vector<std::u16string> Win32TextDrawing::Faces() {
+  std::vector<std::u16string> faces;
+  LOGFONTW all{};
+  all.lfCharSet = DEFAULT_CHARSET;
+  ::EnumFontFamiliesExW(measuring_.get(), &all, AddFace, reinterpret_cast<LPARAM>(&faces), 0);
+  // Each comes once for every script that it has.
+  std::ranges::sort(faces, {}, Lower);
+  const auto repeated = std::ranges::unique(faces);
+  faces.erase(repeated.begin(), repeated.end());
+  return faces;
+}
+
+ResolvedFace Win32TextDrawing::Resolve(const Font& font) {
+  const Selected selected(measuring_.get(), HandleOf(font));
+  wchar_t face[LF_FACESIZE] = {};
+  ::GetTextFaceW(measuring_.get(), LF_FACESIZE, face);
+  return {Text(face), ::GetTextCharset(measuring_.get())};
 }
 
 platform::Size Win32TextDrawing::Measure(std::u16string_view text, const Font& font) {

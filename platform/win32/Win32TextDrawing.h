@@ -11,6 +11,8 @@ namespace platform {
 class Win32TextDrawing final : public TextDrawing {
  public:
   Win32TextDrawing();
+  std::vector<std::u16string> Faces() override;
+  ResolvedFace Resolve(const Font& font) override;
   platform::Size Measure(std::u16string_view text, const Font& font) override;
   int MeasureHeight(std::u16string_view text, const Font& font, int width) override;
   void Draw(Surface& surface, const Rect& area, std::u16string_view text, const Font& font,
