@@ -20,7 +20,9 @@ struct LoadedForm {
   frmEmpty* form = nullptr;
 };
 
-platform::Icon ProgramIcon() { return TheDesktop().shell().ProgramIcon(platform::IconSize::Small); }
+platform::Icon ProgramIcon() {
+  return TheDesktop().shell().IconOf({}, 0, platform::IconSize::Small);
+}
 
 void ShowByName(std::string_view name) {
   if (Form* form = LoadFormByName(name)) form->Show();

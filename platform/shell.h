@@ -44,7 +44,10 @@ class Shell {
   /// `byAttributes`: the file need not exist, its name alone decides. Empty where there is none.
   [[nodiscard]] virtual Icon FileIcon(std::u16string_view path, IconSize size,
                                       bool byAttributes) = 0;
-  [[nodiscard]] virtual Icon ProgramIcon(IconSize size) = 0;
+  /// The icon of this place, from 0, in a program, library or icon file; an empty path means this
+  /// program. Where there is a picture of that very size it is taken, none is scaled. Empty where
+  /// the file has no such icon.
+  [[nodiscard]] virtual Icon IconOf(std::u16string_view path, int index, IconSize size) = 0;
   /// The shell's description of a file's type ("Textdokument"); empty where it has none.
   [[nodiscard]] virtual std::u16string TypeName(std::u16string_view path) = 0;
   [[nodiscard]] virtual std::optional<VersionInformation> Version(std::u16string_view path) = 0;

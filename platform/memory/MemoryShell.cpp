@@ -91,19 +91,22 @@ Icon MemoryShell::FileIcon(std::u16string_view path, IconSize size, bool byAttri
   return SquareIcon(size, ColourOf(ExtensionOf(path)));
 }
 
-Icon MemoryShell::ProgramIcon(IconSize size) {
-  return faults_.Fails("Shell.ProgramIcon") ? Icon() : SquareIcon(size, 0x3366CC);
+Icon MemoryShell::IconOf(std::u16string_view path, int index, IconSize size) {
+  if (faults_.Fails("Shell.IconOf")) return {};
+  const auto file = iconsOfFiles.find(std::u16string(path));
+  const int count = path.empty() ? programIcons : file == iconsOfFiles.end() ? 0 : file->second;
+  const bool isThere = index >= 0 && index < count;
+  return isThere ? SquareIcon(size, (0x3366CCu + 0x112233u * index) & 0xFFFFFF) : Icon();
 }
 
 std::u16string MemoryShell::TypeName(std::u16string_view path) {
   if (faults_.Fails("Shell.TypeName")) return {};
+  if (files_.Attributes(path).value_or(0) & kAttributeFolder) return u"Dateiordner";
   const auto extension = ExtensionOf(path);
   const auto known = typeNames.find(extension);
   if (known != typeNames.end()) return known->second;
   if (extension.empty()) return u"Datei";
-  std::u16string upper = extension;
-  std::ranges::transform(upper, upper.begin(), UpperUnit);
-  return upper + u"-Datei";
+  return Upper(extension) + u"-Datei";
 }
 
 std::optional<VersionInformation> MemoryShell::Version(std::u16string_view path) {

@@ -34,6 +34,8 @@ class MemoryShell : public Shell {
   std::map<std::u16string, std::u16string> typeNames{{u"txt", u"Textdokument"}};
   std::map<std::u16string, VersionInformation> versions;  ///< by the path as it is asked for
   std::map<std::u16string, std::u16string> environment{{u"USERNAME", u"Anna"}};
+  int programIcons = 8;
+  std::map<std::u16string, int> iconsOfFiles;  ///< how many, by the path as it is asked for
   std::u16string logonName = u"Anna";
   std::u16string programFolder = u"C:\\Programme\\Dorvalin";
   bool previousInstance = false;
@@ -51,11 +53,14 @@ class MemoryShell : public Shell {
   std::optional<std::u16string> SpecialFolder(int number) override;
   /// A plain square whose colour follows the extension.
   Icon FileIcon(std::u16string_view path, IconSize size, bool byAttributes) override;
-  Icon ProgramIcon(IconSize size) override;
+  /// A plain square of one colour for each place.
+  Icon IconOf(std::u16string_view path, int index, IconSize size) override;
   std::u16string TypeName(std::u16string_view path) override;
   std::optional<VersionInformation> Version(std::u16string_view path) override;
   std::u16string ExpandEnvironment(std::u16string_view text) override;
-  std::u16string LogonName() override { return logonName; }
+  std::u16string LogonName() override {
+    return faults_.Fails("Shell.LogonName") ? std::u16string() : logonName;
+  }
   std::u16string ProgramFolder() override { return programFolder; }
   bool PreviousInstance() override { return previousInstance; }
 

@@ -3,8 +3,6 @@
 #include <shellapi.h>
 #include <shlobj.h>
 
-#include <utility>
-
 #include "platform/win32/IconHandle.h"
 #include "platform/win32/VersionResource.h"
 #include "platform/win32/WindowHandle.h"
@@ -28,13 +26,6 @@ UINT IconFlags(IconSize size) {
 }
 
 int PixelsOf(IconSize size) { return size == IconSize::Small ? 16 : 32; }
-
-BOOL CALLBACK LoadFirst(HMODULE module, LPCWSTR, LPWSTR name, LONG_PTR request) {
-  auto& [pixels, icon] = *reinterpret_cast<std::pair<int, OwnedIcon>*>(request);
-  icon.reset(
-      static_cast<HICON>(::LoadImageW(module, name, IMAGE_ICON, pixels, pixels, LR_DEFAULTCOLOR)));
-  return FALSE;
-}
 
 std::u16string ProgramFile() {
   std::u16string path(kLongestPath, u'\0');
@@ -97,12 +88,17 @@ Icon Win32Shell::FileIcon(std::u16string_view path, IconSize size, bool byAttrib
   return IconOfHandle(icon.get());
 }
 
-Icon Win32Shell::ProgramIcon(IconSize size) {
-  // By its own size: the system's small icon of a file is the large one scaled down.
-  std::pair<int, OwnedIcon> request{PixelsOf(size), nullptr};
-  ::EnumResourceNamesW(::GetModuleHandleW(nullptr), RT_GROUP_ICON, LoadFirst,
-                       reinterpret_cast<LONG_PTR>(&request));
-  return IconOfHandle(request.second.get());
+Icon Win32Shell::IconOf(std::u16string_view path, int index, IconSize size) {
+  // To the system a negative place is a resource's number.
+  if (index < 0) return {};
+  const std::u16string file = path.empty() ? ProgramFile() : std::u16string(path);
+  // By its own size: the small icon of the shell's ways is the large one scaled down.
+  const int pixels = PixelsOf(size);
+  HICON icon = nullptr;
+  UINT which = 0;
+  ::PrivateExtractIconsW(Wide(file), index, pixels, pixels, &icon, &which, 1, LR_DEFAULTCOLOR);
+  const OwnedIcon owned(icon);
+  return IconOfHandle(owned.get());
 }
 
 std::u16string Win32Shell::TypeName(std::u16string_view path) {

@@ -14,7 +14,7 @@ class Win32Shell final : public Shell {
                  const CopyOptions& options) override;
   std::optional<std::u16string> SpecialFolder(int number) override;
   Icon FileIcon(std::u16string_view path, IconSize size, bool byAttributes) override;
-  Icon ProgramIcon(IconSize size) override;
+  Icon IconOf(std::u16string_view path, int index, IconSize size) override;
   std::u16string TypeName(std::u16string_view path) override;
   std::optional<VersionInformation> Version(std::u16string_view path) override;
   std::u16string ExpandEnvironment(std::u16string_view text) override;
