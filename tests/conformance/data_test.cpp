@@ -127,9 +127,58 @@ TEST_F(InFiles, EntriesTellWhatTheyAre) {
   EXPECT_FALSE(list[0].IsFolder());
   EXPECT_EQ(list[0].modified, files().ModifiedTime(kFolder + u"\\datei.txt"));
   const auto now = desktop().clock().Now();
-  EXPECT_EQ(list[0].modified.year, now.year);
-  EXPECT_EQ(list[0].modified.day, now.day) << "local time";
+  for (const auto& time : {list[0].modified, list[0].created, list[0].accessed}) {
+    EXPECT_EQ(time.year, now.year);
+    EXPECT_EQ(time.day, now.day) << "local time";
+  }
+  EXPECT_EQ(list[0].shortName, u"");
   EXPECT_TRUE(*files().Attributes(kFolder) & platform::kAttributeFolder);
+}
+
+TEST_F(InFiles, AShortNameIsEmptyOrFitsEightAndThree) {
+  ASSERT_EQ(files().Write(Path(u"lang genug und mehr.html"), "x"), platform::FileStatus::Done);
+  const auto list = files().List(kFolder + u"\\lang*");
+  ASSERT_EQ(list.size(), 1u);
+  const std::u16string& name = list[0].shortName;
+  const auto dot = std::min(name.find(u'.'), name.size());
+  EXPECT_LE(dot, 8u);
+  EXPECT_LE(name.size() - dot, 4u);
+  EXPECT_EQ(name.find(u' '), name.npos) << platform::ToUtf8(name);
+}
+
+TEST_F(InFiles, RenamingNeverOverwritesAndTakesOverAnotherSpelling) {
+  ASSERT_EQ(files().Write(Path(u"alt.txt"), "eins"), platform::FileStatus::Done);
+  ASSERT_EQ(files().Write(Path(u"fest.txt"), "zwei"), platform::FileStatus::Done);
+  const auto rename = [&](const std::u16string& from, const std::u16string& to) {
+    return files().Rename(kFolder + u"\\" + from, kFolder + u"\\" + to);
+  };
+  for (const auto* to : {u"fest.txt", u"FEST.txt", u"neu?.txt", u"kein\\ort.txt"}) {
+    EXPECT_FALSE(rename(u"alt.txt", to)) << platform::ToUtf8(to);
+  }
+  EXPECT_FALSE(rename(u"fehlt.txt", u"neu.txt"));
+  EXPECT_EQ(Names(u"*"), (std::vector<std::u16string>{u"alt.txt", u"fest.txt"}));
+  EXPECT_EQ(files().Read(kFolder + u"\\fest.txt").bytes, "zwei");
+
+  EXPECT_TRUE(rename(u"alt.txt", u"alt.txt"));
+  EXPECT_TRUE(rename(u"alt.txt", u"Alt.TXT"));
+  EXPECT_EQ(Names(u"*"), (std::vector<std::u16string>{u"Alt.TXT", u"fest.txt"}));
+  EXPECT_TRUE(rename(u"alt.TXT", u"größe €.txt"));
+  Path(u"größe €.txt");
+  EXPECT_EQ(files().Read(kFolder + u"\\größe €.txt").bytes, "eins");
+  EXPECT_FALSE(files().Attributes(kFolder + u"\\alt.txt"));
+}
+
+TEST_F(InFiles, AFolderIsRenamedWithAllThatIsInIt) {
+  const std::u16string old = u"C:\\Dorvalin Teil";
+  const std::u16string other = u"C:\\Dorvalin TEIL 2";
+  (void)files().CreateFolder(old);
+  ASSERT_EQ(files().Write(old + u"\\a.txt", "x"), platform::FileStatus::Done);
+  EXPECT_FALSE(files().Rename(old, old + u"\\innen"));
+  EXPECT_TRUE(files().Rename(old, u"C:\\DORVALIN Teil"));
+  EXPECT_EQ(files().List(u"C:\\dorvalin t*").at(0).name, u"DORVALIN Teil");
+  EXPECT_TRUE(files().Rename(old, other));
+  EXPECT_EQ(files().Read(other + u"\\a.txt").bytes, "x");
+  EXPECT_TRUE(files().Rename(other, old));
 }
 
 TEST_F(InFiles, CopyingReplacesAndDeletingWorksOnce) {
@@ -159,6 +208,14 @@ TEST_F(InFiles, TheSystemDriveIsThereAndReady) {
   ASSERT_NE(c, drives.end());
   EXPECT_EQ(c->kind, platform::DriveKind::Fixed);
   EXPECT_TRUE(c->ready);
+  EXPECT_NE(c->fileSystem, u"");
+  EXPECT_NE(c->serialNumber, 0u);
+  const auto asked = files().DriveAt(u'c');
+  ASSERT_TRUE(asked);
+  EXPECT_EQ(asked->letter, u'C');
+  EXPECT_EQ(asked->serialNumber, c->serialNumber);
+  EXPECT_FALSE(files().DriveAt(u'Q'));
+  EXPECT_FALSE(files().DriveAt(u'?'));
 }
 
 class InLocale : public Conformance {
@@ -204,6 +261,73 @@ TEST_F(InLocale, DatePicturesAreFilledIn) {
   for (const auto& [picture, expected] : kPictures) {
     EXPECT_EQ(platform::ToUtf8(locale().FormatDate(kWhen, picture)), expected);
   }
+}
+
+TEST_F(InLocale, TypedDatesAreRead) {
+  using platform::DateTime;
+  const int thisYear = desktop().clock().Now().year;
+  const std::pair<const char16_t*, std::optional<DateTime>> kTexts[] = {
+      {u"9.3.2026", DateTime{2026, 3, 9}},
+      {u" 09.03.26 ", DateTime{2026, 3, 9}},
+      {u"9.3.68", DateTime{1968, 3, 9}},
+      {u"9.3", DateTime{thisYear, 3, 9}},
+      {u"9/3/2026", DateTime{2026, 3, 9}},
+      {u"2026-03-09", DateTime{2026, 3, 9}},
+      {u"3.31.2026", DateTime{2026, 3, 31}},
+      {u"29.2.2024", DateTime{2024, 2, 29}},
+      {u"9. März 2026", DateTime{2026, 3, 9}},
+      {u"Montag, 9. März 2026", DateTime{2026, 3, 9}},
+      {u"9. Dez 2026", DateTime{2026, 12, 9}},
+      {u"9.3.2026 15:05", DateTime{2026, 3, 9}},
+      {u"29.2.2023", {}},
+      {u"13.13.2026", {}},
+      {u"9.3.1500", {}},
+      {u"1.1.10000", {}},
+      {u"15:05", {}},
+      {u"9", {}},
+      {u"9.3.2026 x", {}},
+      {u"Quatsch", {}},
+      {u"", {}},
+  };
+  for (const auto& [text, expected] : kTexts) {
+    EXPECT_EQ(locale().ParseDate(text), expected) << platform::ToUtf8(text);
+  }
+}
+
+TEST_F(InLocale, TypedTimesAreRead) {
+  struct Case {
+    const char16_t* text;
+    int hour, minute, second;  ///< -1 for none
+  };
+  const Case kTexts[] = {
+      {u"15:05", 15, 5, 0},
+      {u"7:05:04", 7, 5, 4},
+      {u" 15:5 ", 15, 5, 0},
+      {u"3:05 PM", 15, 5, 0},
+      {u"12:05 AM", 0, 5, 0},
+      {u"12:05 pm", 12, 5, 0},
+      {u"9.3.2026 15:05", 15, 5, 0},
+      {u"9.3.2026", 0, 0, 0},
+      {u"24:00", -1, 0, 0},
+      {u"15:60", -1, 0, 0},
+      {u"15", -1, 0, 0},
+      {u"15:05 Uhr", -1, 0, 0},
+      {u"", -1, 0, 0},
+  };
+  for (const auto& [text, hour, minute, second] : kTexts) {
+    SCOPED_TRACE(platform::ToUtf8(text));
+    const auto time = locale().ParseTime(text);
+    ASSERT_EQ(time.has_value(), hour >= 0);
+    if (!time) continue;
+    EXPECT_EQ(*time, (platform::DateTime{1601, 1, 1, hour, minute, second}));
+  }
+}
+
+TEST_F(InLocale, WhatIsWrittenIsReadAgain) {
+  EXPECT_EQ(locale().ParseDate(locale().ShortDate(kWhen)), (platform::DateTime{2026, 3, 9}));
+  EXPECT_EQ(locale().ParseDate(locale().LongDate(kWhen)), (platform::DateTime{2026, 3, 9}));
+  EXPECT_EQ(locale().ParseTime(locale().LongTime(kWhen)),
+            (platform::DateTime{1601, 1, 1, 7, 5, 4}));
 }
 
 class OnClipboard : public Conformance {
