@@ -1,17 +1,17 @@
 // What a user of the program waits for: the wheel, and a text in the window in which he works.
 //
 //   bench_windows wheel N        from the decision of a gesture to the shown wheel and its panel
-//   bench_windows delivery N     100 characters delivered, less the wait that the settings ask for
-//   bench_windows target N       beside it: what the target alone needs for the same characters
-//   when
-//                                they are put into its queue
+//   bench_windows delivery N     100 characters delivered, less the wait that the settings ask for;
+//                                beside it, the limit: the same characters injected at once, with
+//                                nothing around it, until the target shows them
 //
-// Prints N times in milliseconds, one a line. The former foreground window is the target.
+// Prints N lines of times in milliseconds. The former foreground window is the target.
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
 #include <thread>
+#include <vector>
 
 #include "app/tables.h"
 #include "core/Delivery.h"
@@ -68,25 +68,39 @@ HWND FocusOfTarget() {
   return thread.hwndFocus;
 }
 
-Milliseconds TargetAlone() {
+std::vector<INPUT> KeyEvents(std::u16string_view text) {
+  std::vector<INPUT> events;
+  for (const char16_t unit : text) {
+    for (const DWORD edge : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
+      INPUT& event = events.emplace_back();
+      event.type = INPUT_KEYBOARD;
+      event.ki.wScan = unit;
+      event.ki.dwFlags = KEYEVENTF_UNICODE | edge;
+    }
+  }
+  return events;
+}
+
+Milliseconds KeysAlone() {
   const HWND field = FocusOfTarget();
   const auto length = [field] { return ::SendMessageW(field, WM_GETTEXTLENGTH, 0, 0); };
   const auto whole = length() + static_cast<LRESULT>(kText.size());
+  std::vector<INPUT> events = KeyEvents(kText);
   return Took([&] {
-    for (const char16_t unit : kText) ::PostMessageW(field, WM_CHAR, unit, 0);
+    ::SendInput(static_cast<UINT>(events.size()), events.data(), sizeof(INPUT));
     while (length() < whole) std::this_thread::sleep_for(std::chrono::milliseconds(1));
   });
 }
 
-Milliseconds (*MeasurementOf(std::string_view what))() {
-  if (what == "wheel") return Wheel;
-  return what == "delivery" ? Delivery : TargetAlone;
-}
-
-void Measure(std::string_view what, int times) {
+void Measure(bool wheel, int times) {
   for (int i = 0; i < times; ++i) {
     Rest();
-    std::printf("%.2f\n", MeasurementOf(what)().count());
+    std::printf("%.2f", (wheel ? Wheel() : Delivery()).count());
+    if (!wheel) {
+      Rest();
+      std::printf(" %.2f", KeysAlone().count());
+    }
+    std::puts("");
   }
 }
 
@@ -102,7 +116,7 @@ int main(int count, char** arguments) {
   if (dorvalin::Main() != dorvalin::StartVerdict::Resident) return 1;
   state.settings.DontAnimate = true;
   state.settings.AnimateFctnsNormal = false;
-  Measure(arguments[1], std::atoi(arguments[2]));
+  Measure(std::string_view(arguments[1]) == "wheel", std::atoi(arguments[2]));
   for (platform::Form* form : platform::TheForms().All()) form->Unload();
   return 0;
 }
