@@ -1,5 +1,32 @@
 // The platform's own controls, as Windows users know them. Made visible and enabled, in the order
 // in which the Tab key visits them. A handler left empty does nothing.
+//
+// What each of them tells, in this order; all else comes from none. "Code": a call that has this
+// effect raises it as well. Chosen: Change, when it is another item than before, and then Click.
+//
+//   text box        Change           another text (code)
+//   rich text box   SelectionChange  the caret or the selection moved (code)
+//                   Change           another text or format (code)
+//   list box        chosen           another item (code), or a click on the same one
+//                   DoubleClick      in place of that by the second press
+//   drop-down list  DropDown         before its list opens
+//                   chosen           as in the list box
+//   check box       Change, Click    another value (code)
+//   option button   Change, Click    it got the check (code); losing it is no choice
+//   slider          MouseDown        before it acts on the press
+//                   Change           another value (code)
+//   label           MouseDown
+//                   Click            the left button released inside
+//                   DoubleClick      in place of both by the second press
+//   frame           -
+//   tree            MouseDown        before it acts on the press
+//                   Change           another node is selected (code)
+//                   NodeClick        a left click on a node, or one reached by key; it is selected
+//                   Click            a left click anywhere in it
+//                   DoubleClick      in place of all these by the second press, before a node folds
+//                   MouseUp          of the other buttons
+//
+// Focus, KeyDown and Char come from all that can have the keyboard: not from labels and frames.
 #pragma once
 
 #include <functional>
@@ -15,16 +42,18 @@
 
 namespace platform {
 
-/// What every native control tells its owner.
+/// What the native controls tell their owner: see the table above.
 struct ControlEvents {
-  std::function<void()> Click;  ///< clicked, or chosen by key
+  std::function<void()> Click;
   std::function<void()> DoubleClick;
-  std::function<void()> Change;           ///< text, choice or position changed, also by code
-  std::function<void()> SelectionChange;  ///< the caret or the selection moved (rich text)
+  std::function<void()> Change;
+  std::function<void()> SelectionChange;  ///< the caret or the selection moved
   std::function<void(bool)> Focus;        ///< gained or lost the keyboard
   std::function<void(KeyEvent&)> KeyDown;
   std::function<void(CharEvent&)> Char;
 };
+
+using MouseHandler = std::function<void(Button, const MouseEvent&)>;
 
 class Control : public Window {
  public:
@@ -79,28 +108,38 @@ class ItemChoice : public Control {
   virtual void Clear() = 0;
   virtual void Add(std::u16string_view item) = 0;
   virtual void Remove(int index) = 0;
+  /// Another text in its place; the choice stays, and nothing is raised.
+  virtual void SetItem(int index, std::u16string_view item) = 0;
   [[nodiscard]] virtual int Count() const = 0;
   [[nodiscard]] virtual std::u16string Item(int index) const = 0;
   [[nodiscard]] virtual int Selected() const = 0;
-  /// Raises Click as a choice by the user does, when it is another item than before.
+  /// An index without an item is no choice.
   virtual void Select(int index) = 0;
 };
-class DropDownList : public ItemChoice {};
+class DropDownList : public ItemChoice {
+ public:
+  std::function<void()> DropDown;  ///< items may be added now
+};
 class ListBox : public ItemChoice {};
 
 class CheckBox : public Control {
  public:
   [[nodiscard]] virtual bool Checked() const = 0;
-  /// Raises Click as a click does, when the value changes.
   virtual void SetChecked(bool checked) = 0;
   virtual void SetCaption(std::u16string_view caption) = 0;
 };
 /// One of its group is checked: the option buttons of one parent from a group start on.
 class OptionButton : public CheckBox {};
 
+/// A press beside its thumb moves it by a fifth of the range. A handler of MouseDown can move it
+/// itself instead: the press then only drags the thumb, when that is under the pointer by now.
 class Slider : public Control {
  public:
+  MouseHandler MouseDown;
+  /// From 0 to 100 at first. The value is kept inside.
   virtual void SetRange(int minimum, int maximum) = 0;
+  /// A mark at each so many values; at first only the ends have one.
+  virtual void SetTickStep(int step) = 0;
   [[nodiscard]] virtual int Value() const = 0;
   virtual void SetValue(int value) = 0;
 };
@@ -109,7 +148,7 @@ class Label : public Control {
  public:
   virtual void SetCaption(std::u16string_view caption) = 0;
   virtual void SetPointer(const Pointer& pointer) = 0;
-  std::function<void(Button, const MouseEvent&)> MouseDown;
+  MouseHandler MouseDown;
 };
 /// A line around a group, with a caption in its top edge.
 class Frame : public Control {
@@ -125,7 +164,10 @@ class TreeView : public Control {
   std::function<void(TreeNode)> Expanding;  ///< about to open; children may be added now
   std::function<void(TreeNode)> Collapsed;
   std::function<void(TreeNode)> NodeClick;
-  /// Children are kept sorted by caption ignoring case when `sorted` was set for the parent.
+  MouseHandler MouseDown;
+  MouseHandler MouseUp;
+  /// Under a parent for which `sorted` was set it finds its place by the caption, as the user's
+  /// language sorts: case and accents come last (Ä with A).
   virtual TreeNode Add(TreeNode parent, std::u16string_view caption, const Icon& icon) = 0;
   virtual void Remove(TreeNode node) = 0;
   virtual void Clear() = 0;
@@ -137,7 +179,9 @@ class TreeView : public Control {
   [[nodiscard]] virtual TreeNode Selected() const = 0;
   virtual void Select(TreeNode node) = 0;
   [[nodiscard]] virtual bool Expanded(TreeNode node) const = 0;
+  /// When it folds away the selected node, it is selected itself.
   virtual void SetExpanded(TreeNode node, bool expanded) = 0;
+  /// Whose icon or caption is at the point.
   [[nodiscard]] virtual TreeNode NodeAt(Point client) const = 0;
 };
 

@@ -45,6 +45,8 @@ class Input {
   [[nodiscard]] virtual Modifiers ModifiersDown() = 0;
   [[nodiscard]] virtual Point PointerPosition() = 0;
   virtual void MovePointer(Point p) = 0;
+  /// The hourglass over all windows of this program, whatever their own pointers, until taken back.
+  virtual void SetWaitPointer(bool wait) = 0;
   enum class KeyEdge { Down, Up };
   /// One key event into the input stream.
   virtual void InjectKey(int virtualKey, int scanCode, bool extended, KeyEdge edge) = 0;

@@ -29,6 +29,15 @@ class ControlOf : public WindowOf<Port> {
   void Raise(const std::function<void()>& event) const {
     if (const auto handler = event) handler();
   }
+  /// Another choice was made.
+  void RaiseChoice() const {
+    const auto click = this->events.Click;
+    Raise(this->events.Change);
+    Raise(click);
+  }
+  static void Raise(const MouseHandler& event, Button button, const MouseEvent& at) {
+    if (const auto handler = event) handler(button, at);
+  }
 
   void OnFocusChange(bool gained) override {
     if (const auto handler = this->events.Focus) handler(gained);

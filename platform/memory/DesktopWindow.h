@@ -18,7 +18,7 @@ struct PointerInput {
   MouseEvent state;                 ///< `at` in screen pixels
   std::chrono::nanoseconds time{};  ///< since the desktop's start
   bool second = false;              ///< the second press of a double click
-  int notches = 0;
+  int turn = 0;                     ///< of the wheel, in parts of a notch (WheelNotches)
 };
 
 /// A key going down or up, with the character that it types (0 for none).

@@ -1,7 +1,5 @@
 #include "platform/memory/MemoryButtons.h"
 
-#include <algorithm>
-
 #include "platform/drawing.h"
 #include "platform/memory/MemoryTextDrawing.h"
 
@@ -36,39 +34,29 @@ void CheckBoxOf<Port>::PaintOn(Surface& screen, const Rect& place, const Rect& c
 template class CheckBoxOf<CheckBox>;
 template class CheckBoxOf<OptionButton>;
 
-std::vector<MemoryOptionButton*> MemoryOptionButton::Group() const {
-  std::vector<MemoryOptionButton*> group;
-  bool mine = false;
+std::vector<OptionButton*> MemoryOptionButton::Group() const {
+  std::vector<OptionPlace> siblings;
   for (MemoryNode* sibling : Parent()->Children()) {
     auto* option = dynamic_cast<MemoryOptionButton*>(sibling);
-    if (option == nullptr) continue;
-    if (option->startsGroup_) {
-      if (mine) break;
-      group.clear();
-    }
-    group.push_back(option);
-    mine = mine || option == this;
+    if (option != nullptr) siblings.push_back({option, option->startsGroup_});
   }
-  return group;
+  return OptionGroup(siblings, *this);
 }
 
 void MemoryOptionButton::Check(bool checked) {
   if (checked) {
-    for (MemoryOptionButton* other : Group()) other->SetCheckedFlag(false);
+    for (OptionButton* other : Group()) {
+      static_cast<MemoryOptionButton*>(other)->SetCheckedFlag(false);
+    }
   }
   SetCheckedFlag(checked);
-  // Losing the check is no choice: only the one that gets it tells so.
-  if (checked) Raise(events.Click);
+  if (checked) RaiseChoice();
 }
 
 void MemoryOptionButton::OnOwnKey(const KeyEvent& event) {
-  const bool back = event.virtualKey == key::kUp || event.virtualKey == key::kLeft;
-  const bool on = event.virtualKey == key::kDown || event.virtualKey == key::kRight;
-  if (!back && !on) return CheckBoxOf::OnOwnKey(event);
-  const auto group = Group();
-  const auto me = std::find(group.begin(), group.end(), this) - group.begin();
-  const auto count = static_cast<std::ptrdiff_t>(group.size());
-  MemoryOptionButton* next = group[(me + (back ? count - 1 : 1)) % count];
+  auto* next = static_cast<MemoryOptionButton*>(OptionAfterKey(Group(), *this, event.virtualKey));
+  if (next == nullptr) return CheckBoxOf::OnOwnKey(event);
+  if (next == this) return;
   next->TakeFocus();
   if (next->Alive()) next->Press();
 }

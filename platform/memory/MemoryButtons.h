@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/memory/ControlNode.h"
+#include "platform/optiongroup.h"
 
 namespace platform {
 
@@ -26,7 +27,7 @@ class CheckBoxOf : public ControlOf<Port> {
  protected:
   virtual void Check(bool checked) {
     checked_ = checked;
-    this->Raise(this->events.Click);
+    this->RaiseChoice();
   }
   virtual void Press() { Check(!checked_); }
   void SetCheckedFlag(bool checked) { checked_ = checked; }
@@ -65,7 +66,7 @@ class MemoryOptionButton final : public CheckBoxOf<OptionButton> {
   void OnOwnKey(const KeyEvent& event) override;
 
  private:
-  std::vector<MemoryOptionButton*> Group() const;
+  std::vector<OptionButton*> Group() const;
   bool startsGroup_;
 };
 

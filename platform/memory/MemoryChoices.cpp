@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/drawing.h"
+#include "platform/memory/MemoryDesktop.h"
 #include "platform/memory/MemoryTextDrawing.h"
 #include "platform/text.h"
 
@@ -73,6 +74,50 @@ void MemoryDropDownList::PaintOn(Surface& screen, const Rect& place, const Rect&
                            {.vertical = TextFormat::Vertical::Centre});
 }
 
+void MemoryDropDownList::Open() {
+  open_ = true;
+  Desktop().windows().Capture(*this);
+  Raise(DropDown);
+}
+
+void MemoryDropDownList::Close() {
+  open_ = false;
+  if (Alive()) Desktop().windows().ReleaseCapture(*this);
+}
+
+void MemoryDropDownList::OnPointerInput(const PointerInput& input, const MouseEvent& event) {
+  const bool inBox = Rect::At({0, 0}, Place().Size()).Contains(event.at);
+  const int index =
+      event.at.y < Place().Height() ? -1 : (event.at.y - Place().Height()) / RowHeight();
+  const bool inList = event.at.x >= 0 && event.at.x < Place().Width() && Row().Has(index);
+  if (input.kind == PointerInput::Kind::Press && input.button == Button::Left) {
+    pressedInList_ = open_ && inList;
+    if (!open_ && inBox) return Open();
+    if (open_ && !inList) return Close();
+  }
+  if (!open_ || input.kind != PointerInput::Kind::Release) return;
+  // The open list keeps the pointer.
+  Desktop().windows().Capture(*this);
+  if (std::exchange(pressedInList_, false) && inList) {
+    Close();
+    Choose(index);
+  }
+}
+
+void MemoryDropDownList::OnOwnKey(const KeyEvent& event) {
+  const bool vertical = event.virtualKey == key::kUp || event.virtualKey == key::kDown;
+  if (event.virtualKey == key::kF1 + 3 || (event.modifiers.alt && vertical)) {
+    return open_ ? Close() : Open();
+  }
+  if (event.virtualKey == key::kEnter || event.virtualKey == key::kEscape) return Close();
+  ItemChoiceOf::OnOwnKey(event);
+}
+
+void MemoryDropDownList::OnFocusChange(bool gained) {
+  if (!gained) Close();
+  ItemChoiceOf::OnFocusChange(gained);
+}
+
 int MemoryListBox::FirstShown() const {
   const int rows = std::max(1, (Place().Height() - 2 * kEdge) / RowHeight());
   return std::max(0, Selected() - rows + 1);
@@ -96,12 +141,14 @@ void MemoryListBox::PaintOn(Surface& screen, const Rect& place, const Rect& clip
 }
 
 void MemoryListBox::OnPointerInput(const PointerInput& input, const MouseEvent& event) {
-  if (input.kind != PointerInput::Kind::Press || input.button != Button::Left) return;
+  if (input.button != Button::Left) return;
+  if (input.kind == PointerInput::Kind::Release && beforePress_) {
+    return TellChoice(*std::exchange(beforePress_, std::nullopt));
+  }
   const int index = FirstShown() + (event.at.y - kEdge) / RowHeight();
-  if (!Row().Has(index)) return;
-  const auto doubleClick = input.second ? events.DoubleClick : nullptr;
-  Choose(index);
-  Raise(doubleClick);
+  if (input.kind != PointerInput::Kind::Press || !Row().Has(index)) return;
+  if (input.second) return Raise(events.DoubleClick);
+  beforePress_ = std::exchange(Row().selected, index);
 }
 
 }  // namespace platform

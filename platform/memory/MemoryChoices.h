@@ -1,8 +1,9 @@
-// Drop-down list and list box. The drop-down's list is not drawn: keys choose, and a test chooses
-// with Choose, as the user does with the pointer.
+// Drop-down list and list box. The open list hangs below its box and is not drawn.
 #pragma once
 
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/memory/ControlNode.h"
@@ -37,24 +38,27 @@ class ItemChoiceOf : public ControlOf<Port> {
   void Remove(int index) override {
     if (!this->Fails("ItemChoice.Remove")) row_.Remove(index);
   }
+  void SetItem(int index, std::u16string_view item) override {
+    if (!this->Fails("ItemChoice.SetItem") && row_.Has(index)) row_.items[index] = item;
+  }
   int Count() const override { return row_.Count(); }
   std::u16string Item(int index) const override {
     return row_.Has(index) ? row_.items[index] : u"";
   }
   int Selected() const override { return row_.selected; }
   void Select(int index) override {
-    if (this->Fails("ItemChoice.Select") || index == row_.selected) return;
-    row_.selected = row_.Has(index) ? index : -1;
-    if (row_.selected >= 0) this->Raise(this->events.Click);
+    if (this->Fails("ItemChoice.Select")) return;
+    const int wanted = row_.Has(index) ? index : -1;
+    if (std::exchange(row_.selected, wanted) != wanted) this->RaiseChoice();
   }
-  /// The user picks it; that raises Click also when it was chosen before.
-  void Choose(int index) {
-    row_.selected = index;
-    this->Raise(this->events.Click);
-  }
+  /// The user picks it.
+  void Choose(int index) { TellChoice(std::exchange(row_.selected, index)); }
 
  protected:
   ItemRow& Row() { return row_; }
+  void TellChoice(int former) {
+    former != row_.selected ? this->RaiseChoice() : this->Raise(this->events.Click);
+  }
   int RowHeight() const;
   void OnOwnKey(const KeyEvent& event) override {
     const int to = row_.AfterKey(event.virtualKey, this->Place().Height() / RowHeight());
@@ -75,6 +79,16 @@ class MemoryDropDownList final : public ItemChoiceOf<DropDownList> {
 
  protected:
   void PaintOn(Surface& screen, const Rect& place, const Rect& clip) override;
+  void OnPointerInput(const PointerInput& input, const MouseEvent& event) override;
+  void OnOwnKey(const KeyEvent& event) override;
+  void OnFocusChange(bool gained) override;
+
+ private:
+  void Open();
+  void Close();
+
+  bool open_ = false;
+  bool pressedInList_ = false;
 };
 
 class MemoryListBox final : public ItemChoiceOf<ListBox> {
@@ -87,6 +101,8 @@ class MemoryListBox final : public ItemChoiceOf<ListBox> {
 
  private:
   int FirstShown() const;
+
+  std::optional<int> beforePress_;  ///< the choice when the button went down on an item
 };
 
 }  // namespace platform

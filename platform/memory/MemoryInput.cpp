@@ -63,6 +63,16 @@ void MemoryInput::MovePointer(Point p) {
   if (!desktop_.faults().Fails("Input.MovePointer")) HandMoves(p);
 }
 
+void MemoryInput::SetWaitPointer(bool wait) {
+  if (!desktop_.faults().Fails("Input.SetWaitPointer")) waits_ = wait;
+}
+
+Pointer MemoryInput::ShownPointer() {
+  const MemoryNode* node = desktop_.windows().NodeAt(pointer_);
+  if (node == nullptr) return {};
+  return waits_ ? Pointer{StandardPointer::Hourglass, {}} : node->Shape();
+}
+
 void MemoryInput::InjectKey(int virtualKey, int /*scanCode*/, bool /*extended*/, KeyEdge edge) {
   if (!desktop_.faults().Fails("Input.InjectKey")) HandKey(virtualKey, edge);
 }
@@ -104,9 +114,9 @@ void MemoryInput::HandReleases(Button button) {
   Send({PointerInput::Kind::Release, button, State()});
 }
 
-void MemoryInput::HandTurnsWheel(int notches) {
+void MemoryInput::HandTurnsWheelBy(int by) {
   PointerInput turn{PointerInput::Kind::Wheel, Button::Middle, State()};
-  turn.notches = notches;
+  turn.turn = by;
   Send(turn);
 }
 

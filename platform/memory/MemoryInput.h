@@ -8,6 +8,7 @@
 #include "platform/input.h"
 #include "platform/memory/DesktopWindow.h"
 #include "platform/memory/MemoryPump.h"
+#include "platform/wheel.h"
 
 namespace platform {
 
@@ -23,6 +24,7 @@ class MemoryInput : public Input {
   Modifiers ModifiersDown() override;
   Point PointerPosition() override;
   void MovePointer(Point p) override;
+  void SetWaitPointer(bool wait) override;
   void InjectKey(int virtualKey, int scanCode, bool extended, KeyEdge edge) override;
   bool Type(const std::vector<KeyStroke>& strokes) override;
 
@@ -30,11 +32,14 @@ class MemoryInput : public Input {
   void HandMoves(Point to);
   void HandPresses(Button button);
   void HandReleases(Button button);
-  void HandTurnsWheel(int notches);
+  void HandTurnsWheel(int notches) { HandTurnsWheelBy(notches * WheelNotches::kNotch); }
+  void HandTurnsWheelBy(int turn);
   /// `unit`: the character that the key types in the user's layout; 0 for the one that the virtual
   /// key itself names, if any.
   void HandKey(int virtualKey, KeyEdge edge, char16_t unit = 0);
 
+  /// What the pointer looks like over our windows while nothing is dragged.
+  Pointer ShownPointer();
   bool ScrollLockOn() const { return scrollLock_; }
   bool AnyButtonDown() const { return buttons_.any(); }
   Modifiers HeldModifiers() const;
@@ -54,6 +59,7 @@ class MemoryInput : public Input {
   std::bitset<3> buttons_;
   std::bitset<256> keys_;
   bool scrollLock_ = false;
+  bool waits_ = false;
   MemoryTopWindow* moved_ = nullptr;
   Point grip_{};
 };

@@ -40,8 +40,8 @@ void PaneNode::PaintOn(Surface& screen, const Rect& place, const Rect& clip) {
   }
 }
 
-void PaneNode::Capture(bool held) {
-  if (!Fails("Pane.ReleaseCapture") && !held) Desktop().windows().ReleaseCapture(*this);
+void PaneNode::EndCapture() {
+  if (!Fails("Pane.ReleaseCapture")) Desktop().windows().ReleaseCapture(*this);
 }
 
 void PaneNode::ChangePointer(const Pointer& pointer) {
@@ -65,7 +65,8 @@ void PaneNode::OnPointerInput(const PointerInput& input, const MouseEvent& event
     case PointerInput::Kind::Move:
       return events_->OnMouseMove(event);
     case PointerInput::Kind::Wheel:
-      return events_->OnMouseWheel(input.notches, event);
+      if (const int notches = wheel_.Take(input.turn)) events_->OnMouseWheel(notches, event);
+      return;
   }
 }
 

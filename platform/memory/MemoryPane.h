@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "platform/memory/MemoryNode.h"
+#include "platform/wheel.h"
 
 namespace platform {
 
@@ -20,7 +21,7 @@ class PaneNode : public MemoryNode {
   PaneEvents& Events() { return *events_; }
   Surface& CanvasOf();
   void ShowCanvas();
-  void Capture(bool held);
+  void EndCapture();
   DropEffect RunDrag(const DataContent& data, DropEffect allowed, DragFeedback* feedback);
   void ChangePointer(const Pointer& pointer);
   void ChangeAcceptsDrops(bool accepts) { acceptsDrops_ = accepts; }
@@ -39,6 +40,7 @@ class PaneNode : public MemoryNode {
   Surface shown_;
   Pointer pointer_;
   bool acceptsDrops_ = false;
+  WheelNotches wheel_;
 };
 
 template <class Port>
@@ -48,7 +50,7 @@ class PaneOf : public WindowOf<Port, PaneNode> {
   Surface& Canvas() override { return this->CanvasOf(); }
   void Refresh() override { this->ShowCanvas(); }
   void SetPointer(const Pointer& pointer) override { this->ChangePointer(pointer); }
-  void ReleaseCapture() override { this->Capture(false); }
+  void ReleaseCapture() override { this->EndCapture(); }
   DropEffect Drag(const DataContent& data, DropEffect allowed, DragFeedback* feedback) override {
     return this->RunDrag(data, allowed, feedback);
   }

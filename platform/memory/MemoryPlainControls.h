@@ -1,6 +1,7 @@
 // Slider, label and frame.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -12,6 +13,7 @@ class MemorySlider final : public ControlOf<Slider> {
  public:
   using ControlOf::ControlOf;
   void SetRange(int minimum, int maximum) override;
+  void SetTickStep(int step) override;
   int Value() const override { return value_; }
   void SetValue(int value) override;
 
@@ -23,10 +25,15 @@ class MemorySlider final : public ControlOf<Slider> {
  private:
   int XOf(int value) const;
   int ValueAt(int x) const;
+  Rect Thumb() const;
+  int Page() const;
+  void Press(const MouseEvent& event, bool movedByHandler);
 
   int minimum_ = 0;
   int maximum_ = 100;
   int value_ = 0;
+  int tickStep_ = 0;
+  std::optional<int> grip_;  ///< where the thumb is held, from its middle
 };
 
 class MemoryLabel final : public ControlOf<Label> {
@@ -51,6 +58,7 @@ class MemoryLabel final : public ControlOf<Label> {
   std::u16string caption_;
   LabelStyle style_;
   Pointer pointer_;
+  bool armed_ = false;
 };
 
 class MemoryFrame final : public ControlOf<Frame> {

@@ -48,9 +48,9 @@ class TextBoxOf : public ControlOf<Port> {
     const int start = edit_.Start(), length = edit_.Length();
     change();
     const bool moved = start != edit_.Start() || length != edit_.Length();
-    const auto selectionChange = this->events.SelectionChange;
-    if (revision != edit_.Revision()) this->Raise(this->events.Change);
-    if (kRich && moved) this->Raise(selectionChange);
+    const auto changed = revision != edit_.Revision() ? this->events.Change : nullptr;
+    if (kRich && moved) this->Raise(this->events.SelectionChange);
+    this->Raise(changed);
   }
 
   void PaintOn(Surface& screen, const Rect& place, const Rect& clip) override {
@@ -70,8 +70,6 @@ class TextBoxOf : public ControlOf<Port> {
       if (press) pressedAt_ = at;
       Apply([&] { edit_.Select(std::min(at, pressedAt_), std::abs(at - pressedAt_)); });
     }
-    if (input.kind == PointerInput::Kind::Release) this->Raise(this->events.Click);
-    if (press && input.second) this->Raise(this->events.DoubleClick);
   }
   void OnOwnKey(const KeyEvent& event) override {
     Apply([&] { edit_.OnKey(event.virtualKey, event.modifiers); });

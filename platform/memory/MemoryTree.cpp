@@ -5,12 +5,13 @@
 
 #include "platform/drawing.h"
 #include "platform/memory/MemoryTextDrawing.h"
-#include "platform/text.h"
+#include "platform/memory/collation.h"
 
 namespace platform {
 namespace {
 
 constexpr int kEdge = 2;
+constexpr int kIcon = 20;  ///< with the gap to the caption; kept free where a node has none
 
 }  // namespace
 
@@ -35,7 +36,7 @@ TreeNode MemoryTree::Add(TreeNode parent, std::u16string_view caption, const Ico
 
 void MemoryTree::Sort(Item& parent) {
   std::stable_sort(parent.children.begin(), parent.children.end(), [&](TreeNode a, TreeNode b) {
-    return Lower(items_[a].caption) < Lower(items_[b].caption);
+    return SortsBefore(items_[a].caption, items_[b].caption);
   });
 }
 
@@ -53,13 +54,13 @@ void MemoryTree::Remove(TreeNode node) {
   if (Find(selected_) != nullptr && selected_ != 0) return;
   // The choice moves on to a neighbour, or up.
   const auto& left = items_[parent].children;
-  selected_ = next != 0 ? next : left.empty() ? parent : left.back();
+  MoveSelection(next != 0 ? next : left.empty() ? parent : left.back());
 }
 
 void MemoryTree::Clear() {
   if (Fails("TreeView.Clear")) return;
-  items_ = {{0, Item{.expanded = true}}};
-  selected_ = 0;
+  items_ = {{0, Item{.sorted = items_[0].sorted, .expanded = true}}};
+  MoveSelection(0);
 }
 
 void MemoryTree::SetSorted(TreeNode parent, bool sorted) {
@@ -94,7 +95,16 @@ TreeNode MemoryTree::Next(TreeNode node) const {
 void MemoryTree::Select(TreeNode node) {
   if (Find(node) == nullptr || Fails("TreeView.Select")) return;
   for (TreeNode above = Parent(node); above != 0; above = Parent(above)) SetExpanded(above, true);
-  selected_ = node;
+  MoveSelection(node);
+}
+
+void MemoryTree::MoveSelection(TreeNode node) {
+  if (std::exchange(selected_, node) != node) Raise(events.Change);
+}
+
+bool MemoryTree::IsBelow(TreeNode node, TreeNode above) const {
+  while (node != 0 && node != above) node = Parent(node);
+  return node == above;
 }
 
 bool MemoryTree::Expanded(TreeNode node) const {
@@ -110,6 +120,7 @@ void MemoryTree::SetExpanded(TreeNode node, bool expanded) {
   if (node == 0 || Find(node) == nullptr || Expanded(node) == expanded) return;
   if (Fails("TreeView.SetExpanded") || Find(node)->children.empty()) return;
   if (expanded) Tell(Expanding, node);
+  if (!expanded && IsBelow(selected_, node)) MoveSelection(node);
   Item* item = Find(node);  // the handler may have taken it away, or its children
   if (item == nullptr || (expanded && item->children.empty())) return;
   item->expanded = expanded;
@@ -129,10 +140,15 @@ std::vector<MemoryTree::Row> MemoryTree::Rows() const {
   return rows;
 }
 
+const MemoryTree::Row* MemoryTree::RowAt(const std::vector<Row>& rows, int y) const {
+  const int row = y < kEdge ? -1 : (y - kEdge) / kRow;
+  return row >= 0 && row < static_cast<int>(rows.size()) ? &rows[row] : nullptr;
+}
+
 TreeNode MemoryTree::NodeAt(Point client) const {
   const auto rows = Rows();
-  const int row = client.y < kEdge ? -1 : (client.y - kEdge) / kRow;
-  return row >= 0 && row < static_cast<int>(rows.size()) ? rows[row].node : 0;
+  const Row* row = RowAt(rows, client.y);
+  return row != nullptr && RowOf(row->node).Contains(client) ? row->node : 0;
 }
 
 Rect MemoryTree::RowOf(TreeNode node) const {
@@ -140,8 +156,10 @@ Rect MemoryTree::RowOf(TreeNode node) const {
   const auto found =
       std::find_if(rows.begin(), rows.end(), [&](const Row& row) { return row.node == node; });
   if (found == rows.end()) return {};
+  const int left = kEdge + kIndent * (found->depth + 1);
   const int top = kEdge + kRow * static_cast<int>(found - rows.begin());
-  return {kEdge + kIndent * (found->depth + 1), top, Place().Width() - kEdge, top + kRow};
+  return Rect::At({left, top},
+                  {kIcon + MemoryTextDrawing::Width(Caption(node), ShownFont()), kRow});
 }
 
 void MemoryTree::PaintOn(Surface& screen, const Rect& place, const Rect& clip) {
@@ -159,7 +177,7 @@ void MemoryTree::PaintOn(Surface& screen, const Rect& place, const Rect& clip) {
                                {});
     }
     if (item.icon) DrawIcon(screen, line.Origin(), item.icon, {16, 16});
-    const Rect text{line.left + 20, line.top, line.right, line.bottom};
+    const Rect text{line.left + kIcon, line.top, line.right, line.bottom};
     const bool chosen = row.node == selected_;
     if (chosen) FillRect(screen, text, 0x6A240A);
     MemoryTextDrawing::Paint(screen, text, item.caption, ShownFont(),
@@ -169,20 +187,34 @@ void MemoryTree::PaintOn(Surface& screen, const Rect& place, const Rect& clip) {
 }
 
 void MemoryTree::Choose(TreeNode node) {
-  selected_ = node;
-  Tell(NodeClick, node);
+  MoveSelection(node);
+  if (ControlOf::Alive() && Find(node) != nullptr) Tell(NodeClick, node);
 }
 
 void MemoryTree::OnPointerInput(const PointerInput& input, const MouseEvent& event) {
+  const bool left = input.button == Button::Left;
+  if (input.kind == PointerInput::Kind::Release && !left) Raise(MouseUp, input.button, event);
+  if (input.kind != PointerInput::Kind::Press) return;
+  if (!left || !input.second) Raise(MouseDown, input.button, event);
+  if (left && ControlOf::Alive()) PressLeft(input, event);
+}
+
+void MemoryTree::PressLeft(const PointerInput& input, const MouseEvent& event) {
+  const auto rows = Rows();
+  const Row* row = RowAt(rows, event.at.y);
   const TreeNode node = NodeAt(event.at);
-  if (input.kind != PointerInput::Kind::Press || input.button != Button::Left || node == 0) return;
-  const int left = RowOf(node).left;
-  if (event.at.x < left - kIndent) return;
-  if (event.at.x < left) return SetExpanded(node, !Expanded(node));
-  if (!input.second) return Choose(node);
-  const auto doubleClick = events.DoubleClick;
-  SetExpanded(node, !Expanded(node));
-  Raise(doubleClick);
+  const int left = row != nullptr ? RowOf(row->node).left : 0;
+  const bool onSign = row != nullptr && event.at.x >= left - kIndent && event.at.x < left;
+  if (!input.second && node != 0) Choose(node);
+  if (ControlOf::Alive()) Raise(input.second ? events.DoubleClick : events.Click);
+  const TreeNode folds = onSign ? row->node : input.second ? node : 0;
+  if (ControlOf::Alive() && folds != 0) SetExpanded(folds, !Expanded(folds));
+}
+
+// As the system does it: a tree with the keyboard has a selected node.
+void MemoryTree::OnFocusChange(bool gained) {
+  if (gained && selected_ == 0) MoveSelection(FirstChild(0));
+  ControlOf::OnFocusChange(gained);
 }
 
 void MemoryTree::OnOwnKey(const KeyEvent& event) {
@@ -198,9 +230,14 @@ void MemoryTree::OnOwnKey(const KeyEvent& event) {
     case key::kDown:
       if (at + 1 != rows.end()) Choose((at + 1)->node);
       return;
+    case key::kHome:
+      return Choose(rows.front().node);
+    case key::kEnd:
+      return Choose(rows.back().node);
     case key::kRight:
       if (!Expanded(selected_)) return SetExpanded(selected_, true);
-      return Choose(FirstChild(selected_));
+      if (FirstChild(selected_) != 0) Choose(FirstChild(selected_));
+      return;
     case key::kLeft:
       if (Expanded(selected_)) return SetExpanded(selected_, false);
       if (ControlOf::Alive() && Parent(selected_) != 0) Choose(Parent(selected_));

@@ -26,13 +26,14 @@ class MemoryTree final : public ControlOf<TreeView> {
   void SetExpanded(TreeNode node, bool expanded) override;
   TreeNode NodeAt(Point client) const override;
 
-  /// Where a node's row lies in the control; empty when it is folded away.
+  /// Where a node's icon and caption lie in the control; empty when it is folded away.
   Rect RowOf(TreeNode node) const;
 
  protected:
   void PaintOn(Surface& screen, const Rect& place, const Rect& clip) override;
   void OnPointerInput(const PointerInput& input, const MouseEvent& event) override;
   void OnOwnKey(const KeyEvent& event) override;
+  void OnFocusChange(bool gained) override;
 
  private:
   struct Item {
@@ -55,7 +56,12 @@ class MemoryTree final : public ControlOf<TreeView> {
   void ListRows(TreeNode node, int depth, std::vector<Row>& rows) const;
   std::vector<Row> Rows() const;
   void Tell(const std::function<void(TreeNode)>& event, TreeNode node);
+  bool IsBelow(TreeNode node, TreeNode above) const;
+  /// The row at this height, or none.
+  const Row* RowAt(const std::vector<Row>& rows, int y) const;
+  void MoveSelection(TreeNode node);
   void Choose(TreeNode node);
+  void PressLeft(const PointerInput& input, const MouseEvent& event);
   static constexpr int kRow = 17;
   static constexpr int kIndent = 19;
 

@@ -36,6 +36,7 @@ class MemoryWindows : public Windows {
   MemoryNode* Captured() const { return captured_; }
   /// A press begins the capture, the release of the last button ends it.
   void Deliver(MemoryNode& node, PointerInput input);
+  void Capture(MemoryNode& node) { captured_ = &node; }
   void ReleaseCapture(const MemoryNode& within);
   void Forget(const MemoryNode& node);
 

@@ -35,6 +35,11 @@ void Win32DropDownList::SetFont(const Font& font) {
   SetBounds(bounds);
 }
 
+void Win32DropDownList::OnCommand(int code) {
+  if (code == CBN_DROPDOWN && DropDown) DropDown();
+  ChoiceControl::OnCommand(code);
+}
+
 void Win32DropDownList::FitClosedHeight(int height) {
   constexpr WPARAM kClosedItem = static_cast<WPARAM>(-1);
   const int item = static_cast<int>(Send(CB_GETITEMHEIGHT, kClosedItem));

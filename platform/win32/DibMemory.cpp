@@ -3,18 +3,14 @@
 #include "platform/win32/bitmaps.h"
 
 namespace platform {
+
 DibMemory::DibMemory(Size size) : dc_(::CreateCompatibleDC(nullptr)) {
   const BITMAPINFO info = TopDownBitmap(size);
   void* bits = nullptr;
   bitmap_.reset(::CreateDIBSection(dc_.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
   if (!dc_ || !bitmap_) return;
-  former_ = ::SelectObject(dc_.get(), bitmap_.get());
+  ::SelectObject(dc_.get(), bitmap_.get());
   pixels = static_cast<Pixel*>(bits);
-}
-
-DibMemory::~DibMemory() {
-  // A bitmap that is still selected would not be freed.
-  if (former_) ::SelectObject(dc_.get(), former_);
 }
 
 HDC DcOf(const Surface& surface) {

@@ -11,15 +11,12 @@ class DibMemory final : public PixelMemory {
  public:
   /// `pixels` stays null when there is no memory for it.
   explicit DibMemory(Size size);
-  ~DibMemory() override;
 
   HDC Dc() const { return dc_.get(); }
-  HBITMAP Bitmap() const { return bitmap_.get(); }
 
  private:
-  OwnedDc dc_;
   OwnedBitmap bitmap_;
-  HGDIOBJ former_ = nullptr;
+  OwnedDc dc_;  ///< goes first: a bitmap that is still selected would not be freed
 };
 
 /// The device context of a surface; null of an empty one. What was drawn through it can be read

@@ -6,6 +6,21 @@
 
 namespace platform {
 
+enum class ButtonEvent { Down, Up, Second };  ///< in the order of the system's numbers
+struct ButtonMessage {
+  Button button;
+  ButtonEvent event;
+};
+
+/// None: the message is about no button.
+inline std::optional<ButtonMessage> ButtonMessageOf(const WindowMessage& m) {
+  static_assert(WM_LBUTTONUP == WM_LBUTTONDOWN + 1 && WM_LBUTTONDBLCLK == WM_LBUTTONDOWN + 2);
+  static_assert(WM_RBUTTONDOWN == WM_LBUTTONDOWN + 3 && WM_MBUTTONDOWN == WM_LBUTTONDOWN + 6);
+  if (m.id < WM_LBUTTONDOWN || m.id > WM_MBUTTONDBLCLK) return std::nullopt;
+  const UINT n = m.id - WM_LBUTTONDOWN;
+  return ButtonMessage{static_cast<Button>(n / 3), static_cast<ButtonEvent>(n % 3)};
+}
+
 inline MouseEvent MouseEventOf(const WindowMessage& m) {
   MouseEvent event;
   event.at = {GET_X_LPARAM(m.lParam), GET_Y_LPARAM(m.lParam)};

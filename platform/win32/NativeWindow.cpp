@@ -1,5 +1,6 @@
 #include "platform/win32/NativeWindow.h"
 
+#include "platform/win32/Pointers.h"
 #include "platform/win32/ToolTips.h"
 #include "platform/win32/wide.h"
 
@@ -142,6 +143,11 @@ bool NativeWindow::MakeControl(const WindowMaking& making) {
   if (!window) return false;
   Attach(window);
   subclassed_ = ::SetWindowSubclass(window, Subclass, kSubclassId, 0) != 0;
+  if (!subclassed_) {
+    Detach();
+    ::DestroyWindow(window);
+    return false;
+  }
   seen_ = ::IsWindowVisible(window);
   return true;
 }
@@ -170,7 +176,12 @@ LRESULT NativeWindow::Default(const WindowMessage& m) {
 }
 
 LRESULT NativeWindow::Handle(NativeWindow& target, const WindowMessage& message) noexcept {
+  if (message.id == WM_SETCURSOR && WaitPointerSet()) {
+    ::SetCursor(CursorOf({StandardPointer::Hourglass, {}}));
+    return TRUE;
+  }
   if (message.id == WM_NCDESTROY) {
+    if (ToolTips* tips = target.Tips()) tips->OwnerGone();
     const HWND window = target.handle_;
     const bool subclassed = target.subclassed_;
     target.Detach();

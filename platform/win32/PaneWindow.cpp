@@ -60,11 +60,7 @@ void PaneWindow::Refresh() {
 
 void PaneWindow::SetPointer(const Pointer& pointer) {
   pointer_ = pointer;
-  POINT at;
-  // A pointer that rests over the window sends no message by which it would change.
-  if (Handle() && ::GetCursorPos(&at) && ::WindowFromPoint(at) == Handle()) {
-    ::SetCursor(CursorOf(pointer_));
-  }
+  if (Handle() && Handle() == WindowUnderPointer()) ShowPointerAnew();
 }
 
 void PaneWindow::ReleaseCapture() {
@@ -116,25 +112,12 @@ std::optional<LRESULT> PaneWindow::Receive(const WindowMessage& message) {
 }
 
 std::optional<LRESULT> PaneWindow::ReceivePointer(const WindowMessage& message) {
+  if (const auto what = ButtonMessageOf(message)) {
+    return what->event == ButtonEvent::Up
+               ? Release(what->button, message)
+               : Press(what->button, message, what->event == ButtonEvent::Second);
+  }
   switch (message.id) {
-    case WM_LBUTTONDOWN:
-      return Press(Button::Left, message, false);
-    case WM_RBUTTONDOWN:
-      return Press(Button::Right, message, false);
-    case WM_MBUTTONDOWN:
-      return Press(Button::Middle, message, false);
-    case WM_LBUTTONDBLCLK:
-      return Press(Button::Left, message, true);
-    case WM_RBUTTONDBLCLK:
-      return Press(Button::Right, message, true);
-    case WM_MBUTTONDBLCLK:
-      return Press(Button::Middle, message, true);
-    case WM_LBUTTONUP:
-      return Release(Button::Left, message);
-    case WM_RBUTTONUP:
-      return Release(Button::Right, message);
-    case WM_MBUTTONUP:
-      return Release(Button::Middle, message);
     case WM_MOUSEMOVE:
       events_.OnMouseMove(MouseEventOf(message));
       return 0;
@@ -228,7 +211,8 @@ LRESULT PaneWindow::Turn(const WindowMessage& message) {
   ::ScreenToClient(Handle(), &at);
   MouseEvent event =
       MouseEventOf({message.id, GET_KEYSTATE_WPARAM(message.wParam), MAKELPARAM(at.x, at.y)});
-  events_.OnMouseWheel(GET_WHEEL_DELTA_WPARAM(message.wParam) / WHEEL_DELTA, event);
+  const int notches = wheel_.Take(GET_WHEEL_DELTA_WPARAM(message.wParam));
+  if (notches != 0) events_.OnMouseWheel(notches, event);
   return 0;
 }
 

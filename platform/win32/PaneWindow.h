@@ -1,6 +1,7 @@
 // What panes and top-level windows share: the canvas, pointer and keyboard events, drags.
 #pragma once
 
+#include "platform/wheel.h"
 #include "platform/win32/DropTarget.h"
 #include "platform/win32/NativeWindow.h"
 #include "platform/win32/WindowOf.h"
@@ -52,6 +53,7 @@ class PaneWindow : public NativeWindow {
     LONG time;
   };
   std::optional<Pressed> lastPress_;  // the last that was told as one
+  WheelNotches wheel_;
   DropRegistration drops_;
 };
 

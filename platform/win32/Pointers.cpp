@@ -72,6 +72,8 @@ HCURSOR StandardCursor(StandardPointer pointer) {
   return ::LoadCursor(nullptr, IDC_ARROW);
 }
 
+bool waits = false;
+
 // A picture lives as long as the program, so its address names it.
 HCURSOR CustomCursor(std::span<const std::byte> picture) {
   static std::map<const std::byte*, OwnedCursor> made;
@@ -87,6 +89,28 @@ HCURSOR CursorOf(const Pointer& pointer) {
     if (const HCURSOR custom = CustomCursor(pointer.picture)) return custom;
   }
   return StandardCursor(pointer.standard);
+}
+
+void SetWaitPointer(bool wait) {
+  waits = wait;
+  ShowPointerAnew();
+}
+
+bool WaitPointerSet() { return waits; }
+
+HWND WindowUnderPointer() {
+  POINT at{};
+  return ::GetCursorPos(&at) ? ::WindowFromPoint(at) : nullptr;
+}
+
+void ShowPointerAnew() {
+  const HWND window = WindowUnderPointer();
+  if (!window || ::GetWindowThreadProcessId(window, nullptr) != ::GetCurrentThreadId()) return;
+  POINT at{};
+  ::GetCursorPos(&at);
+  const LRESULT part = ::SendMessageW(window, WM_NCHITTEST, 0, MAKELPARAM(at.x, at.y));
+  ::SendMessageW(window, WM_SETCURSOR, reinterpret_cast<WPARAM>(window),
+                 MAKELPARAM(part, WM_MOUSEMOVE));
 }
 
 }  // namespace platform

@@ -9,4 +9,12 @@ namespace platform {
 /// A shared pointer that is never to be destroyed; the default one where a picture is unusable.
 HCURSOR CursorOf(const Pointer& pointer);
 
+/// The hourglass over every window of the program.
+void SetWaitPointer(bool wait);
+[[nodiscard]] bool WaitPointerSet();
+
+HWND WindowUnderPointer();
+/// A pointer that rests sends no message by which it would change.
+void ShowPointerAnew();
+
 }  // namespace platform

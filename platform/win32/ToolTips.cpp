@@ -20,10 +20,10 @@ TTTOOLINFOW ToolOf(HWND owner, HWND window) {
 bool ToolTips::Ready() {
   if (tips_) return true;
   // Top-most: its owner may be, and the tip must not stand behind it.
-  tips_ = ::CreateWindowExW(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, TOOLTIPS_CLASSW, nullptr,
-                            WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT, CW_USEDEFAULT,
-                            CW_USEDEFAULT, CW_USEDEFAULT, owner_, nullptr,
-                            ::GetModuleHandleW(nullptr), nullptr);
+  tips_.reset(::CreateWindowExW(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, TOOLTIPS_CLASSW, nullptr,
+                                WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
+                                CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner_, nullptr,
+                                ::GetModuleHandleW(nullptr), nullptr));
   return tips_ != nullptr;
 }
 
@@ -31,11 +31,11 @@ void ToolTips::Set(HWND window, std::u16string_view text) {
   if (text.empty() && !tips_) return;
   if (!Ready()) return;
   TTTOOLINFOW tool = ToolOf(owner_, window);
-  ::SendMessageW(tips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  ::SendMessageW(tips_.get(), TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
   if (text.empty()) return;
   std::u16string shown(text);
   tool.lpszText = WideBuffer(shown);
-  ::SendMessageW(tips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  ::SendMessageW(tips_.get(), TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 }  // namespace platform

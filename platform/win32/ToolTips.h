@@ -12,12 +12,14 @@ class ToolTips {
   explicit ToolTips(HWND owner) : owner_(owner) {}
   /// An empty text takes the tip away.
   void Set(HWND window, std::u16string_view text);
+  /// The system destroys what a window owns with it.
+  void OwnerGone() { static_cast<void>(tips_.release()); }
 
  private:
   bool Ready();
 
   HWND owner_;
-  HWND tips_ = nullptr;  // destroyed by the system with its owner
+  OwnedWindow tips_;
 };
 
 }  // namespace platform

@@ -1,7 +1,5 @@
 #include "platform/win32/Win32Buttons.h"
 
-#include <algorithm>
-
 namespace platform {
 namespace {
 
@@ -44,9 +42,10 @@ bool Win32OptionButton::Checked() const { return Send(BM_GETCHECK) == BST_CHECKE
 void Win32OptionButton::SetChecked(bool checked) {
   if (!Handle() || checked == Checked()) return;
   if (checked) {
-    for (Win32OptionButton* other : Group()) other->Send(BM_SETCHECK, BST_UNCHECKED);
+    for (OptionButton* other : Group()) other->SetChecked(false);
   }
   Send(BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED);
+  if (!checked) return;
   TellChange();
   TellClick();
 }
@@ -55,35 +54,22 @@ void Win32OptionButton::OnCommand(int code) {
   if (code == BN_CLICKED) SetChecked(true);
 }
 
-// The option buttons of the parent, in the order of their making, between two starts of a group.
-std::vector<Win32OptionButton*> Win32OptionButton::Group() const {
-  std::vector<Win32OptionButton*> group;
-  bool own = false;
+std::vector<OptionButton*> Win32OptionButton::Group() const {
+  std::vector<OptionPlace> siblings;
   for (HWND child = ::GetWindow(Handle(), GW_HWNDFIRST); child;
        child = ::GetWindow(child, GW_HWNDNEXT)) {
     auto* option = dynamic_cast<Win32OptionButton*>(Of(child));
-    if (!option) continue;
-    if (option->startsGroup_ && own) break;
-    if (option->startsGroup_) group.clear();
-    group.push_back(option);
-    own = own || option == this;
+    if (option) siblings.push_back({option, option->startsGroup_});
   }
-  return group;
+  return OptionGroup(siblings, *this);
 }
 
 bool Win32OptionButton::MoveChoice(int virtualKey) {
-  const bool back = virtualKey == VK_UP || virtualKey == VK_LEFT;
-  const bool forward = virtualKey == VK_DOWN || virtualKey == VK_RIGHT;
-  if (!back && !forward) return false;
-  std::vector<Win32OptionButton*> group = Group();
-  std::erase_if(group, [this](const Win32OptionButton* each) {
-    return each != this && !(each->Visible() && each->Enabled());
-  });
-  if (back) std::ranges::reverse(group);
-  std::ranges::rotate(group, std::ranges::find(group, this));
-  if (group.size() < 2) return true;
-  group[1]->Focus();
-  group[1]->SetChecked(true);
+  OptionButton* next = OptionAfterKey(Group(), *this, virtualKey);
+  if (!next) return false;
+  if (next == this) return true;
+  next->Focus();
+  next->SetChecked(true);
   return true;
 }
 

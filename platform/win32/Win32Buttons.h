@@ -1,6 +1,7 @@
 // The system's buttons: check box, option button and the frame around a group.
 #pragma once
 
+#include "platform/optiongroup.h"
 #include "platform/win32/ControlWindow.h"
 
 namespace platform {
@@ -37,7 +38,7 @@ class Win32OptionButton final : public ButtonOf<OptionButton> {
   void OnCommand(int code) override;
 
  private:
-  std::vector<Win32OptionButton*> Group() const;
+  std::vector<OptionButton*> Group() const;
   bool MoveChoice(int virtualKey);
 
   bool startsGroup_ = false;

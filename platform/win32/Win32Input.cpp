@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/win32/KeyBatch.h"
+#include "platform/win32/Pointers.h"
 #include "platform/win32/TypingTarget.h"
 #include "platform/win32/handles.h"
 #include "platform/win32/wide.h"
@@ -60,6 +61,8 @@ Point Win32Input::PointerPosition() {
 }
 
 void Win32Input::MovePointer(Point p) { ::SetCursorPos(p.x, p.y); }
+
+void Win32Input::SetWaitPointer(bool wait) { platform::SetWaitPointer(wait); }
 
 void Win32Input::InjectKey(int virtualKey, int scanCode, bool extended, KeyEdge edge) {
   const DWORD flags =

@@ -11,6 +11,7 @@ class Win32Input final : public Input {
   Modifiers ModifiersDown() override;
   Point PointerPosition() override;
   void MovePointer(Point p) override;
+  void SetWaitPointer(bool wait) override;
   void InjectKey(int virtualKey, int scanCode, bool extended, KeyEdge edge) override;
   bool Type(const std::vector<KeyStroke>& strokes) override;
 };

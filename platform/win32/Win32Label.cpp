@@ -2,7 +2,6 @@
 
 #include "platform/drawing.h"
 #include "platform/win32/DibMemory.h"
-#include "platform/win32/MouseMessages.h"
 #include "platform/win32/Pointers.h"
 #include "platform/win32/wide.h"
 
@@ -33,23 +32,12 @@ void Win32Label::SetCaption(std::u16string_view caption) {
 }
 
 std::optional<LRESULT> Win32Label::Receive(const WindowMessage& message) {
+  if (const auto what = ButtonMessageOf(message)) return ReceiveButton(*what, message);
   switch (message.id) {
     case WM_PAINT:
       return Paint();
     case WM_ERASEBKGND:
       return 1;
-    case WM_LBUTTONDOWN:
-      ::SetCapture(Handle());
-      return Press(Button::Left, message);
-    case WM_RBUTTONDOWN:
-      return Press(Button::Right, message);
-    case WM_MBUTTONDOWN:
-      return Press(Button::Middle, message);
-    case WM_LBUTTONUP:
-      return Release(message);
-    case WM_LBUTTONDBLCLK:
-      TellDoubleClick();
-      return 0;
     case WM_SETCURSOR:
       ::SetCursor(CursorOf(pointer_));
       return TRUE;
@@ -58,17 +46,28 @@ std::optional<LRESULT> Win32Label::Receive(const WindowMessage& message) {
   }
 }
 
-LRESULT Win32Label::Press(Button button, const WindowMessage& message) {
-  if (MouseDown) MouseDown(button, MouseEventOf(message));
+LRESULT Win32Label::ReceiveButton(const ButtonMessage& what, const WindowMessage& message) {
+  const bool left = what.button == Button::Left;
+  if (what.event == ButtonEvent::Up) {
+    if (left) Release(message);
+  } else if (left && what.event == ButtonEvent::Second) {
+    TellDoubleClick();
+  } else {
+    Press(what.button, message);
+  }
   return 0;
 }
 
-LRESULT Win32Label::Release(const WindowMessage& message) {
-  if (::GetCapture() != Handle()) return 0;
+void Win32Label::Press(Button button, const WindowMessage& message) {
+  if (button == Button::Left) ::SetCapture(Handle());
+  if (MouseDown) MouseDown(button, MouseEventOf(message));
+}
+
+void Win32Label::Release(const WindowMessage& message) {
+  if (::GetCapture() != Handle()) return;
   ::ReleaseCapture();
   const Rect area = Rect::At({0, 0}, NativeWindow::Bounds().Size());
   if (area.Contains(MouseEventOf(message).at)) TellClick();
-  return 0;
 }
 
 LRESULT Win32Label::Paint() {

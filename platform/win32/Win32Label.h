@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/win32/ControlWindow.h"
+#include "platform/win32/MouseMessages.h"
 
 namespace platform {
 
@@ -19,8 +20,9 @@ class Win32Label final : public ControlOf<Label> {
  private:
   LRESULT Paint();
   void DrawOn(Surface& surface) const;
-  LRESULT Press(Button button, const WindowMessage& message);
-  LRESULT Release(const WindowMessage& message);
+  LRESULT ReceiveButton(const ButtonMessage& what, const WindowMessage& message);
+  void Press(Button button, const WindowMessage& message);
+  void Release(const WindowMessage& message);
 
   LabelStyle style_;
   Pointer pointer_;

@@ -1,6 +1,7 @@
 #include "platform/win32/Win32Pump.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <vector>
 
 #include "platform/win32/Win32TopWindow.h"

@@ -1,8 +1,6 @@
 // The message loop and timers.
 #pragma once
 
-#include <unordered_map>
-
 #include "platform/pump.h"
 #include "platform/win32/handles.h"
 

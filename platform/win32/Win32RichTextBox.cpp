@@ -176,15 +176,6 @@ std::u16string Win32RichTextBox::OwnText() const {
 
 std::u16string Win32RichTextBox::Text() const { return WithLineFeeds(OwnText()); }
 
-void Win32RichTextBox::SetText(std::u16string_view text) {
-  if (!Handle()) return;
-  const bool changes = text != Text();
-  settingText_ = true;
-  SetWindowText(text);
-  settingText_ = false;
-  if (changes) TellChange();
-}
-
 int Win32RichTextBox::SelStart() const {
   CHARRANGE range{};
   SendPointer(EM_EXGETSEL, 0, &range);
@@ -226,12 +217,14 @@ bool Win32RichTextBox::StreamIn(std::string_view source) {
 
 bool Win32RichTextBox::SetRichText(std::string_view source) {
   if (!Handle()) return false;
-  settingText_ = true;
-  const bool taken = StreamIn(source);
-  if (!taken) SetWindowText({});
-  settingText_ = false;
-  Select(0, 0);
-  TellChange();
+  bool taken = false;
+  Quietly(
+      [&] {
+        taken = StreamIn(source);
+        if (!taken) SetWindowText({});
+        Select(0, 0);
+      },
+      true);
   return taken;
 }
 
@@ -250,23 +243,34 @@ RichSelection Win32RichTextBox::Selection() const {
 
 void Win32RichTextBox::SetSelection(const RichSelection& properties) {
   CHARFORMAT2W format = FormatOf(properties);
-  if (format.dwMask) SendPointer(EM_SETCHARFORMAT, SCF_SELECTION, &format);
-  if (!properties.alignment) return;
+  Quietly(
+      [&] {
+        if (format.dwMask) SendPointer(EM_SETCHARFORMAT, SCF_SELECTION, &format);
+        if (properties.alignment) SetAlignment(*properties.alignment);
+      },
+      Handle() != nullptr);
+}
+
+void Win32RichTextBox::SetAlignment(Alignment alignment) {
   PARAFORMAT2 paragraph = EmptyParagraphFormat();
   paragraph.dwMask = PFM_ALIGNMENT;
   for (const auto& each : kAlignments) {
-    if (*properties.alignment == each.alignment) paragraph.wAlignment = each.code;
+    if (alignment == each.alignment) paragraph.wAlignment = each.code;
   }
   SendPointer(EM_SETPARAFORMAT, 0, &paragraph);
 }
 
-void Win32RichTextBox::OnCommand(int code) {
-  if (code == EN_CHANGE && !settingText_) TellChange();
+LRESULT Win32RichTextBox::OnNotify(const NMHDR& notification) {
+  if (notification.code == EN_SELCHANGE && !Quiet()) TellSelection();
+  return 0;
 }
 
-LRESULT Win32RichTextBox::OnNotify(const NMHDR& notification) {
-  if (notification.code == EN_SELCHANGE && !settingText_) TellSelectionChange();
-  return 0;
+// The system also tells of selections that stayed where they were.
+void Win32RichTextBox::TellSelection() {
+  CHARRANGE now{};
+  SendPointer(EM_EXGETSEL, 0, &now);
+  const std::pair selection(now.cpMin, now.cpMax);
+  if (std::exchange(told_, selection) != selection) TellSelectionChange();
 }
 
 }  // namespace platform

@@ -2,18 +2,18 @@
 // (CR LF); positions are translated at this edge.
 #pragma once
 
-#include "platform/win32/ControlWindow.h"
+#include <utility>
+
+#include "platform/win32/TextControl.h"
 
 namespace platform {
 
-class Win32RichTextBox final : public ControlOf<RichTextBox> {
+class Win32RichTextBox final : public TextControl<RichTextBox> {
  public:
-  Win32RichTextBox() : ControlOf(Background::Own) {}
   bool Make(HWND parent, const Rect& bounds, const TextBoxStyle& style);
 
   void SetColours(std::optional<Colour> text, std::optional<Colour> background) override;
   [[nodiscard]] std::u16string Text() const override;
-  void SetText(std::u16string_view text) override;
   [[nodiscard]] int SelStart() const override;
   [[nodiscard]] int SelLength() const override;
   void Select(int start, int length) override;
@@ -24,14 +24,15 @@ class Win32RichTextBox final : public ControlOf<RichTextBox> {
   void SetSelection(const RichSelection& properties) override;
 
  protected:
-  void OnCommand(int code) override;
   LRESULT OnNotify(const NMHDR& notification) override;
+  void TellSelection() override;
 
  private:
   std::u16string OwnText() const;
   bool StreamIn(std::string_view source);
+  void SetAlignment(Alignment alignment);
 
-  bool settingText_ = false;
+  std::pair<LONG, LONG> told_{};  ///< the selection that was last told
 };
 
 }  // namespace platform

@@ -24,16 +24,6 @@ bool Win32TextBox::Make(HWND parent, const Rect& bounds, const TextBoxStyle& sty
   return true;
 }
 
-void Win32TextBox::SetText(std::u16string_view text) {
-  if (!Handle()) return;
-  const bool changes = text != Text();
-  // The system tells of this change only for a single line.
-  settingText_ = true;
-  SetWindowText(text);
-  settingText_ = false;
-  if (changes) TellChange();
-}
-
 int Win32TextBox::SelStart() const {
   DWORD start = 0;
   SendPointer(EM_GETSEL, reinterpret_cast<WPARAM>(&start), static_cast<void*>(nullptr));
@@ -58,16 +48,12 @@ void Win32TextBox::ReplaceSelection(std::u16string_view text) {
 }
 
 std::optional<LRESULT> Win32TextBox::Receive(const WindowMessage& message) {
-  const auto result = ControlOf::Receive(message);
+  const auto result = TextControl::Receive(message);
   // A single line answers Enter, Tab and Escape with nothing but a beep.
   const bool beeps =
       message.id == WM_CHAR && !multiLine_ &&
       (message.wParam == VK_RETURN || message.wParam == VK_TAB || message.wParam == VK_ESCAPE);
   return beeps && !result ? 0 : result;
-}
-
-void Win32TextBox::OnCommand(int code) {
-  if (code == EN_CHANGE && !settingText_) TellChange();
 }
 
 }  // namespace platform

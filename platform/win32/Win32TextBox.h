@@ -1,17 +1,15 @@
 // The system's edit control.
 #pragma once
 
-#include "platform/win32/ControlWindow.h"
+#include "platform/win32/TextControl.h"
 
 namespace platform {
 
-class Win32TextBox final : public ControlOf<TextBox> {
+class Win32TextBox final : public TextControl<TextBox> {
  public:
-  Win32TextBox() : ControlOf(Background::Own) {}
   bool Make(HWND parent, const Rect& bounds, const TextBoxStyle& style);
 
   [[nodiscard]] std::u16string Text() const override { return WindowText(); }
-  void SetText(std::u16string_view text) override;
   [[nodiscard]] int SelStart() const override;
   [[nodiscard]] int SelLength() const override;
   void Select(int start, int length) override;
@@ -19,12 +17,8 @@ class Win32TextBox final : public ControlOf<TextBox> {
 
   std::optional<LRESULT> Receive(const WindowMessage& message) override;
 
- protected:
-  void OnCommand(int code) override;
-
  private:
   bool multiLine_ = false;
-  bool settingText_ = false;
 };
 
 }  // namespace platform

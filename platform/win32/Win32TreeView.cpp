@@ -63,14 +63,18 @@ void Win32TreeView::Forget(TreeNode node) {
 }
 
 void Win32TreeView::Remove(TreeNode node) {
-  if (const HTREEITEM item = node ? ItemOf(node) : nullptr) {
-    SendPointer(TVM_DELETEITEM, 0, item);
-  }
+  if (const HTREEITEM item = node ? ItemOf(node) : nullptr) Delete(item);
 }
 
-void Win32TreeView::Clear() {
-  SendPointer(TVM_DELETEITEM, 0, TVI_ROOT);
-  items_.clear();
+void Win32TreeView::Clear() { Delete(TVI_ROOT); }
+
+// Where the selection goes is told when the tree is whole again.
+void Win32TreeView::Delete(HTREEITEM item) {
+  const TreeNode former = Selected();
+  deleting_ = true;
+  SendPointer(TVM_DELETEITEM, 0, item);
+  deleting_ = false;
+  if (Selected() != former) TellChange();
 }
 
 void Win32TreeView::SetSorted(TreeNode parent, bool sorted) {
@@ -147,6 +151,7 @@ void Win32TreeView::SetExpanded(TreeNode node, bool expanded) {
   if (!item || expanded == Expanded(node) || (expanded && !FirstChild(node))) return;
   // The system tells of the first change by code alone; here each one is told.
   if (expanded && Expanding) Expanding(node);
+  if (!expanded) LeaveChildrenOf(node);
   expandingByCode_ = true;
   SendPointer(TVM_EXPAND, expanded ? TVE_EXPAND : TVE_COLLAPSE, item);
   expandingByCode_ = false;
@@ -160,6 +165,42 @@ TreeNode Win32TreeView::NodeAt(Point client) const {
   return (hit.flags & TVHT_ONITEM) ? NodeOf(hit.hItem) : 0;
 }
 
+bool Win32TreeView::IsBelow(TreeNode node, TreeNode above) const {
+  while (node && node != above) node = Parent(node);
+  return node == above;
+}
+
+// The system does so too, but where among the other events is its own affair.
+void Win32TreeView::LeaveChildrenOf(TreeNode node) {
+  if (IsBelow(Selected(), node)) SendPointer(TVM_SELECTITEM, TVGN_CARET, ItemOf(node));
+}
+
+std::optional<LRESULT> Win32TreeView::Receive(const WindowMessage& message) {
+  const auto what = ButtonMessageOf(message);
+  return what ? ReceiveButton(*what, message) : ControlOf::Receive(message);
+}
+
+// The system's own handling of the right button waits for the release in a loop and keeps it.
+std::optional<LRESULT> Win32TreeView::ReceiveButton(const ButtonMessage& what,
+                                                    const WindowMessage& message) {
+  const auto tell = [&](const MouseHandler& handler) {
+    if (handler) handler(what.button, MouseEventOf(message));
+  };
+  if (what.button == Button::Left) {
+    if (what.event == ButtonEvent::Down) tell(MouseDown);
+    return std::nullopt;
+  }
+  if (what.event != ButtonEvent::Up) {
+    ::SetFocus(Handle());
+    ::SetCapture(Handle());
+    tell(MouseDown);
+  } else if (::GetCapture() == Handle()) {
+    ::ReleaseCapture();
+    tell(MouseUp);
+  }
+  return 0;
+}
+
 void Win32TreeView::TellExpansion(const std::function<void(TreeNode)>& handler,
                                   const NMTREEVIEWW& change) const {
   if (handler && !expandingByCode_) handler(platform::NodeOf(change.itemNew));
@@ -169,30 +210,38 @@ void Win32TreeView::TellNodeClick(TreeNode node) {
   if (node && NodeClick) NodeClick(node);
 }
 
+// The system tells of the click first and selects then.
+void Win32TreeView::TellClicks() {
+  const DWORD place = ::GetMessagePos();
+  POINT at{GET_X_LPARAM(place), GET_Y_LPARAM(place)};
+  ::ScreenToClient(Handle(), &at);
+  const TreeNode node = NodeAt(PointOf(at));
+  if (node) SendPointer(TVM_SELECTITEM, TVGN_CARET, ItemOf(node));
+  TellNodeClick(node);
+  TellClick();
+}
+
 LRESULT Win32TreeView::OnNotify(const NMHDR& notification) {
   const auto& change = reinterpret_cast<const NMTREEVIEWW&>(notification);
   switch (notification.code) {
     case TVN_ITEMEXPANDINGW:
       if (change.action == TVE_EXPAND) TellExpansion(Expanding, change);
+      if (change.action == TVE_COLLAPSE) LeaveChildrenOf(platform::NodeOf(change.itemNew));
       return FALSE;
     case TVN_ITEMEXPANDEDW:
       if (change.action == TVE_COLLAPSE) TellExpansion(Collapsed, change);
       return 0;
     case TVN_SELCHANGEDW:
+      if (deleting_) return 0;
       TellChange();
       if (change.action == TVC_BYKEYBOARD) TellNodeClick(platform::NodeOf(change.itemNew));
       return 0;
     case TVN_DELETEITEMW:
       Forget(platform::NodeOf(change.itemOld));
       return 0;
-    case NM_CLICK: {
-      POINT at{};
-      ::GetCursorPos(&at);
-      ::ScreenToClient(Handle(), &at);
-      TellNodeClick(NodeAt(PointOf(at)));
-      TellClick();
+    case NM_CLICK:
+      TellClicks();
       return 0;
-    }
     case NM_DBLCLK:
       TellDoubleClick();
       return 0;

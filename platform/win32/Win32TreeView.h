@@ -6,6 +6,7 @@
 #include <unordered_map>
 
 #include "platform/win32/ControlWindow.h"
+#include "platform/win32/MouseMessages.h"
 
 namespace platform {
 
@@ -29,6 +30,8 @@ class Win32TreeView final : public ControlOf<TreeView> {
   void SetExpanded(TreeNode node, bool expanded) override;
   [[nodiscard]] TreeNode NodeAt(Point client) const override;
 
+  std::optional<LRESULT> Receive(const WindowMessage& message) override;
+
  protected:
   LRESULT OnNotify(const NMHDR& notification) override;
 
@@ -40,6 +43,11 @@ class Win32TreeView final : public ControlOf<TreeView> {
   bool Sorted(TreeNode parent) const { return sorted_.contains(parent); }
   void Forget(TreeNode node);
   void Reveal(TreeNode node);
+  std::optional<LRESULT> ReceiveButton(const ButtonMessage& what, const WindowMessage& message);
+  bool IsBelow(TreeNode node, TreeNode above) const;
+  void Delete(HTREEITEM item);
+  void LeaveChildrenOf(TreeNode node);
+  void TellClicks();
   void TellNodeClick(TreeNode node);
   void TellExpansion(const std::function<void(TreeNode)>& handler, const NMTREEVIEWW& change) const;
 
@@ -49,6 +57,7 @@ class Win32TreeView final : public ControlOf<TreeView> {
   std::set<TreeNode> sorted_;
   TreeNode last_ = 0;
   bool expandingByCode_ = false;
+  bool deleting_ = false;
 };
 
 }  // namespace platform

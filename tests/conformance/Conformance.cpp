@@ -39,6 +39,11 @@ void Listener::OnDoubleClick(Button button, const platform::MouseEvent& event) {
   log.push_back(NameOf(button) + " double");
 }
 
+void Listener::OnMouseWheel(int notches, const platform::MouseEvent& event) {
+  lastMouse = event;
+  log.push_back("wheel " + std::to_string(notches));
+}
+
 void Listener::OnKeyDown(platform::KeyEvent& event) {
   log.push_back("key " + std::to_string(event.virtualKey));
 }
@@ -92,12 +97,29 @@ bool Conformance::OtherHolds(OtherProgram& other, const std::u16string& text) {
   return Until([&] { return other.Text() == text; });
 }
 
+void Conformance::PointAt(Point p) {
+  // A display may still be telling of an earlier move, which takes the pointer back.
+  const auto stands = [&] { return desktop().input().PointerPosition() == p; };
+  for (int n = 0; n < 20; ++n) {
+    under().MoveTo(p);
+    under().Pump(50ms);
+    if (stands()) return;
+  }
+}
+
 void Conformance::Click(Point p, Button button) {
-  under().MoveTo(p);
-  // A display may still be telling of an earlier move.
-  under().Pump(50ms);
+  PointAt(p);
   under().Press(button);
   under().Release(button);
+  Settle();
+}
+
+void Conformance::DoubleClick(Point p, Button button) {
+  PointAt(p);
+  for (int n = 0; n < 2; ++n) {
+    under().Press(button);
+    under().Release(button);
+  }
   Settle();
 }
 
@@ -105,6 +127,19 @@ void Conformance::PressKey(int virtualKey) {
   under().KeyDown(virtualKey);
   under().KeyUp(virtualKey);
   Settle();
+}
+
+Point Conformance::CornerOf(const platform::TreeView& tree, platform::TreeNode node) {
+  const Rect place = tree.ScreenBounds();
+  for (int y = 0; y < place.Height(); ++y) {
+    for (int x = 0; x < place.Width(); x += 8) {
+      if (tree.NodeAt({x, y}) != node) continue;
+      while (tree.NodeAt({x - 1, y}) == node) --x;
+      return place.Origin() + Point{x, y};
+    }
+  }
+  ADD_FAILURE() << "the node is not shown";
+  return {};
 }
 
 void Conformance::PlanDrag(Point from, Point to) {

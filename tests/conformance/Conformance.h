@@ -37,6 +37,7 @@ class Listener : public platform::TopWindowEvents {
   void OnMouseUp(Button button, const platform::MouseEvent& event) override;
   void OnMouseMove(const platform::MouseEvent& event) override;
   void OnDoubleClick(Button button, const platform::MouseEvent& event) override;
+  void OnMouseWheel(int notches, const platform::MouseEvent& event) override;
   void OnKeyDown(platform::KeyEvent& event) override;
   void OnChar(platform::CharEvent& event) override { typed += event.unit; }
   void OnFocus(bool gained) override { log.emplace_back(gained ? "focus" : "no focus"); }
@@ -69,9 +70,17 @@ class Conformance : public testing::Test {
   bool HasForeground(const TopWindow& window);
   bool OtherHolds(OtherProgram& other, const std::u16string& text);
 
+  /// The pointer stands there when this returns.
+  void PointAt(Point p);
+  void PointAt(const platform::Window& window) { PointAt(window.ScreenBounds().Middle()); }
   void Click(Point p, Button button = Button::Left);
   void Click(const platform::Window& window) { Click(window.ScreenBounds().Middle()); }
+  void DoubleClick(Point p, Button button = Button::Left);
+  /// Waits until a press counts as a first one again.
+  void Rest() { under().Pump(700ms); }
   void PressKey(int virtualKey);
+  /// Where a node's icon begins, on the screen.
+  static Point CornerOf(const platform::TreeView& tree, platform::TreeNode node);
   /// With the pointer, in steps that a drag needs; planned from now on.
   void PlanDrag(Point from, Point to);
 

@@ -48,6 +48,8 @@ class DesktopUnderTest {
   virtual void MoveTo(Point p) = 0;
   virtual void Press(Button button) = 0;
   virtual void Release(Button button) = 0;
+  /// In parts of a notch; away from the user is positive.
+  virtual void TurnWheel(int turn) = 0;
   virtual void KeyDown(int virtualKey) = 0;
   virtual void KeyUp(int virtualKey) = 0;
   /// Happens after the delay whoever pumps then; it may use the hands and nothing else.
@@ -55,6 +57,10 @@ class DesktopUnderTest {
   /// The next pop-up menu is answered by its entry at this place, counted from 1 without the
   /// separators.
   virtual void ChooseInMenu(int place) = 0;
+
+  /// What the user sees at the pointer.
+  virtual std::u16string ToolTipShown() = 0;
+  virtual bool HourglassShown() = 0;
 
   /// Pumps for so long.
   virtual void Pump(std::chrono::milliseconds time) = 0;

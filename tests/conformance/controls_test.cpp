@@ -5,6 +5,7 @@ namespace conformance {
 namespace {
 
 namespace key = platform::key;
+using platform::TreeNode;
 
 class Controls : public Conformance {
  protected:
@@ -15,6 +16,7 @@ class Controls : public Conformance {
   }
   platform::Controls& controls() { return desktop().controls(); }
   TopWindow& window() { return *window_; }
+  Listener& listener() { return listener_; }
   std::unique_ptr<platform::TextBox> NewTextBox(const platform::TextBoxStyle& style = {}) {
     return controls().NewTextBox(window(), {10, 10, 210, style.multiLine ? 110 : 34}, style);
   }
@@ -163,22 +165,6 @@ TEST_F(Controls, OneOptionOfEachGroupIsChecked) {
   EXPECT_EQ(clicks, (std::vector<int>{1, 1, 0, 1}));
 }
 
-TEST_F(Controls, ACheckBoxTellsOfChangesOnly) {
-  const auto box = controls().NewCheckBox(window(), {10, 10, 160, 34}, u"&Kopie");
-  int clicks = 0;
-  box->events.Click = [&] { ++clicks; };
-  box->SetChecked(false);
-  EXPECT_EQ(clicks, 0);
-  box->SetChecked(true);
-  EXPECT_EQ(clicks, 1);
-  Click(*box);
-  EXPECT_FALSE(box->Checked());
-  box->Focus();
-  PressKey(key::kSpace);
-  EXPECT_TRUE(box->Checked());
-  EXPECT_EQ(clicks, 3);
-}
-
 TEST_F(Controls, ChoicesFollowCodeAndKeys) {
   const std::unique_ptr<platform::ItemChoice> choices[] = {
       controls().NewDropDownList(window(), {10, 10, 160, 34}),
@@ -224,6 +210,26 @@ TEST_F(Controls, ASliderStaysInItsRange) {
   EXPECT_EQ(changes, 3);
 }
 
+TEST_F(Controls, ASliderMarksItsSteps) {
+  const auto slider = controls().NewSlider(window(), {10, 10, 256, 60});
+  slider->SetRange(0, 1000);
+  slider->SetTickStep(100);
+  Settle();
+  const auto shown = desktop().screen().Capture(slider->ScreenBounds());
+  ASSERT_TRUE(shown);
+  // The row with the most separate marks is that of the ticks.
+  int most = 0;
+  for (int y = 0; y < shown->Height(); ++y) {
+    const auto ground = shown->At({0, y});
+    int marks = 0;
+    for (int x = 1; x < shown->Width(); ++x) {
+      marks += shown->At({x, y}) != ground && shown->At({x - 1, y}) == ground;
+    }
+    most = std::max(most, marks);
+  }
+  EXPECT_EQ(most, 11);
+}
+
 TEST_F(Controls, ATreeSortsFillsAndFolds) {
   const auto tree = controls().NewTreeView(window(), {10, 10, 210, 210});
   const auto root = tree->Add(0, u"Arbeitsplatz", {});
@@ -266,14 +272,90 @@ TEST_F(Controls, ATreeSortsFillsAndFolds) {
   EXPECT_GT(again, late) << "numbers are never used twice";
 }
 
-TEST_F(Controls, ALabelHasAPressAndAClick) {
+TEST_F(Controls, ATreeSortsAsPeopleRead) {
+  const auto tree = controls().NewTreeView(window(), {10, 10, 210, 310});
+  tree->SetSorted(0, true);
+  for (const auto* name : {u"Zeit", u"öde", u"straße", u"Äpfel", u"Ofen", u"apfel", u"ändern",
+                           u"Apfelmus", u"strand"}) {
+    tree->Add(0, name, {});
+  }
+  std::u16string sorted;
+  for (auto node = tree->FirstChild(0); node != 0; node = tree->Next(node)) {
+    sorted += tree->Caption(node) + u" ";
+  }
+  EXPECT_EQ(platform::ToUtf8(sorted), "ändern apfel Äpfel Apfelmus öde Ofen strand straße Zeit ");
+}
+
+TEST_F(Controls, ATreeShowsEachNodesOwnIcon) {
+  const auto tree = controls().NewTreeView(window(), {10, 10, 210, 210});
+  const auto icon = [](std::uint32_t pixel) {
+    return std::make_shared<platform::IconPixels>(
+        platform::IconPixels{{16, 16}, std::vector<std::uint32_t>(256, pixel)});
+  };
+  const TreeNode nodes[] = {tree->Add(0, u"rot", icon(0xFFFF0000)), tree->Add(0, u"ohne", {}),
+                            tree->Add(0, u"blau", icon(0xFF0000FF)),
+                            tree->Add(0, u"auch rot", icon(0xFFFF0000))};
+  Settle();
+  const Rect place = tree->ScreenBounds();
+  const auto shown = desktop().screen().Capture(place);
+  ASSERT_TRUE(shown);
+  std::string colours;
+  for (const TreeNode node : nodes) {
+    const auto pixel = shown->At(CornerOf(*tree, node) + Point{8, 8} - place.Origin()) & 0xFFFFFF;
+    colours += pixel == 0xFF0000 ? 'r' : pixel == 0x0000FF ? 'b' : '-';
+  }
+  EXPECT_EQ(colours, "r-br");
+}
+
+TEST_F(Controls, AFrameLeavesTheClicksToWhatItSurrounds) {
+  const auto before = controls().NewCheckBox(window(), {30, 40, 120, 60}, u"vorher");
+  const auto frame = controls().NewFrame(window(), {10, 10, 210, 210}, u"Gruppe");
+  const auto after = controls().NewCheckBox(window(), {30, 80, 120, 100}, u"nachher");
+  Click(*before);
+  Click(*after);
+  EXPECT_TRUE(before->Checked());
+  EXPECT_TRUE(after->Checked());
+  Click(*frame);
+  EXPECT_EQ(listener().Count("left down"), 1);
+}
+
+TEST_F(Controls, AToolTipShowsWhileThePointerRests) {
+  const auto shows = [&](const std::u16string& text) {
+    return Until([&] { return under().ToolTipShown() == text; }, 3s);
+  };
   const auto label = controls().NewLabel(window(), {10, 10, 110, 40}, u"Adresse", {});
-  int presses = 0, clicks = 0;
-  label->MouseDown = [&](Button, const platform::MouseEvent&) { ++presses; };
-  label->events.Click = [&] { ++clicks; };
-  Click(*label);
-  EXPECT_EQ(presses, 1);
-  EXPECT_EQ(clicks, 1);
+  const auto box = controls().NewCheckBox(window(), {10, 60, 110, 90}, u"Kopie");
+  label->SetToolTip(u"Straße");
+  box->SetToolTip(u"Zwei & drei");
+  PointAt(*label);
+  EXPECT_TRUE(shows(u"Straße"));
+  PointAt(*box);
+  EXPECT_TRUE(shows(u"Zwei & drei"));
+  PointAt(window());
+  EXPECT_TRUE(shows(u""));
+  label->SetToolTip(u"Ort");
+  box->SetToolTip({});
+  PointAt(*box);
+  under().Pump(1s);
+  EXPECT_TRUE(shows(u""));
+  PointAt(*label);
+  EXPECT_TRUE(shows(u"Ort"));
+}
+
+TEST_F(Controls, TheHourglassStandsOverAllOfThem) {
+  const auto tree = controls().NewTreeView(window(), {10, 10, 210, 110});
+  const auto box = controls().NewTextBox(window(), {10, 120, 210, 144}, {});
+  PointAt(*tree);
+  EXPECT_FALSE(under().HourglassShown());
+  desktop().input().SetWaitPointer(true);
+  EXPECT_TRUE(under().HourglassShown()) << "at once: who waits does not pump";
+  PointAt(*box);
+  EXPECT_TRUE(under().HourglassShown());
+  window().SetPointer({platform::StandardPointer::SizeAll, {}});
+  PointAt(window());
+  EXPECT_TRUE(under().HourglassShown());
+  desktop().input().SetWaitPointer(false);
+  EXPECT_FALSE(under().HourglassShown());
 }
 
 }  // namespace

@@ -93,6 +93,23 @@ TEST_F(Windows, TheSecondPressOfADoubleClickIsOne) {
             (Log{"left down", "left up", "left double", "left up", "left down", "left up"}));
 }
 
+TEST_F(Windows, PartsOfAWheelNotchAddUp) {
+  Listener listener;
+  const auto window = NewWindow(listener, kOurs);
+  window->Show(ShowMode::Activate);
+  ASSERT_TRUE(HasForeground(*window));
+  under().MoveTo(kOurs.Middle());
+  Settle();
+  listener.log.clear();
+  // A part, two that fill one notch and begin another, a turn back that forgets it.
+  for (const int turn : {40, 40, 80, -100, -20, -240, 120}) {
+    under().TurnWheel(turn);
+    Settle();
+  }
+  EXPECT_EQ(listener.log, (Log{"wheel 1", "wheel -1", "wheel -2", "wheel 1"}));
+  EXPECT_EQ(listener.lastMouse.at, kOurs.Middle() - kOurs.Origin());
+}
+
 TEST_F(Windows, TheInnermostVisibleWindowIsUnderThePoint) {
   Listener listener, outer, inner;
   const auto window = NewWindow(listener, kOurs);

@@ -30,6 +30,7 @@ class CountedInput : public platform::Input {
   platform::Modifiers ModifiersDown() override { return ++calls, platform::Modifiers{}; }
   Point PointerPosition() override { return ++calls, pointer; }
   void MovePointer(Point p) override { pointer = p; }
+  void SetWaitPointer(bool) override {}
   void InjectKey(int virtualKey, int scanCode, bool extended, KeyEdge edge) override {
     EXPECT_EQ(virtualKey, platform::key::kScrollLock);
     EXPECT_EQ(scanCode, 69);

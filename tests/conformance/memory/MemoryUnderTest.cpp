@@ -28,6 +28,7 @@ class MemoryUnderTest final : public DesktopUnderTest {
   void MoveTo(Point p) override { desktop_.input().HandMoves(p); }
   void Press(Button button) override { desktop_.input().HandPresses(button); }
   void Release(Button button) override { desktop_.input().HandReleases(button); }
+  void TurnWheel(int turn) override { desktop_.input().HandTurnsWheelBy(turn); }
   void KeyDown(int key) override { desktop_.input().HandKey(key, Input::KeyEdge::Down); }
   void KeyUp(int key) override { desktop_.input().HandKey(key, Input::KeyEdge::Up); }
   void Later(std::chrono::milliseconds delay, std::function<void()> act) override {
@@ -41,6 +42,13 @@ class MemoryUnderTest final : public DesktopUnderTest {
         if (entry.id != 0 && entry.visible && ++seen == place) desktop_.menus().ChooseId(entry.id);
       }
     });
+  }
+  std::u16string ToolTipShown() override {
+    const auto* node = desktop_.windows().NodeAt(desktop_.input().PointerPosition());
+    return node != nullptr ? node->ToolTip() : u"";
+  }
+  bool HourglassShown() override {
+    return desktop_.input().ShownPointer().standard == platform::StandardPointer::Hourglass;
   }
   void Pump(std::chrono::milliseconds time) override {
     desktop_.pump().RunFor(time, [] {});

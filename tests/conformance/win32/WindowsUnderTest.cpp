@@ -33,10 +33,11 @@ void SendKey(int virtualKey, DWORD flags) {
   Send(input);
 }
 
-void SendButton(DWORD flags) {
+void SendMouse(DWORD flags, int data = 0) {
   INPUT input{};
   input.type = INPUT_MOUSE;
   input.mi.dwFlags = flags;
+  input.mi.mouseData = static_cast<DWORD>(data);
   Send(input);
 }
 
@@ -135,6 +136,19 @@ void WaitForMenu() {
   }
 }
 
+BOOL CALLBACK AddShownTip(HWND window, LPARAM text) {
+  wchar_t name[64] = {};
+  ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
+  if (std::wstring(name) != TOOLTIPS_CLASSW || !::IsWindowVisible(window)) return TRUE;
+  wchar_t shown[256] = {};
+  TTTOOLINFOW tool{};
+  tool.cbSize = TTTOOLINFOW_V2_SIZE;
+  tool.lpszText = shown;
+  ::SendMessageW(window, TTM_GETCURRENTTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  *reinterpret_cast<std::u16string*>(text) += platform::Text(shown);
+  return TRUE;
+}
+
 class WindowsUnderTest final : public DesktopUnderTest {
  public:
   platform::Desktop& desktop() override { return desktop_; }
@@ -146,15 +160,16 @@ class WindowsUnderTest final : public DesktopUnderTest {
   }
   void MoveTo(Point p) override { ::SetCursorPos(p.x, p.y); }
   void Press(Button button) override {
-    SendButton(button == Button::Left    ? MOUSEEVENTF_LEFTDOWN
-               : button == Button::Right ? MOUSEEVENTF_RIGHTDOWN
-                                         : MOUSEEVENTF_MIDDLEDOWN);
+    SendMouse(button == Button::Left    ? MOUSEEVENTF_LEFTDOWN
+              : button == Button::Right ? MOUSEEVENTF_RIGHTDOWN
+                                        : MOUSEEVENTF_MIDDLEDOWN);
   }
   void Release(Button button) override {
-    SendButton(button == Button::Left    ? MOUSEEVENTF_LEFTUP
-               : button == Button::Right ? MOUSEEVENTF_RIGHTUP
-                                         : MOUSEEVENTF_MIDDLEUP);
+    SendMouse(button == Button::Left    ? MOUSEEVENTF_LEFTUP
+              : button == Button::Right ? MOUSEEVENTF_RIGHTUP
+                                        : MOUSEEVENTF_MIDDLEUP);
   }
+  void TurnWheel(int turn) override { SendMouse(MOUSEEVENTF_WHEEL, turn); }
   void KeyDown(int virtualKey) override { SendKey(virtualKey, 0); }
   void KeyUp(int virtualKey) override { SendKey(virtualKey, KEYEVENTF_KEYUP); }
   void Later(milliseconds delay, std::function<void()> act) override {
@@ -170,6 +185,16 @@ class WindowsUnderTest final : public DesktopUnderTest {
         KeyUp(key);
       }
     });
+  }
+  std::u16string ToolTipShown() override {
+    std::u16string text;
+    ::EnumThreadWindows(::GetCurrentThreadId(), AddShownTip, reinterpret_cast<LPARAM>(&text));
+    return text;
+  }
+  bool HourglassShown() override {
+    CURSORINFO shown{};
+    shown.cbSize = sizeof(shown);
+    return ::GetCursorInfo(&shown) && shown.hCursor == ::LoadCursor(nullptr, IDC_WAIT);
   }
   void Pump(milliseconds time) override {
     const auto end = Clock::now() + time;
