@@ -33,11 +33,24 @@ void SendKey(int virtualKey, DWORD flags) {
   Send(input);
 }
 
-void SendMouse(DWORD flags, int data = 0) {
+constexpr Point kAside{1000, 700};
+
+void SendWheel(int turn) {
   INPUT input{};
   input.type = INPUT_MOUSE;
-  input.mi.dwFlags = flags;
-  input.mi.mouseData = static_cast<DWORD>(data);
+  input.mi.dwFlags = MOUSEEVENTF_WHEEL;
+  input.mi.mouseData = static_cast<DWORD>(turn);
+  Send(input);
+}
+
+/// With its place, for the display may still be telling of earlier moves and take the pointer back.
+void SendMouseAt(Point p, DWORD button) {
+  const auto part = [](int at, int whole) { return (at * 65536 + whole - 1) / whole; };
+  INPUT input{};
+  input.type = INPUT_MOUSE;
+  input.mi.dwFlags = button | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+  input.mi.dx = part(p.x, ::GetSystemMetrics(SM_CXSCREEN));
+  input.mi.dy = part(p.y, ::GetSystemMetrics(SM_CYSCREEN));
   Send(input);
 }
 
@@ -158,18 +171,21 @@ class WindowsUnderTest final : public DesktopUnderTest {
   std::unique_ptr<OtherProgram> Start(const Rect& place) override {
     return std::make_unique<TargetProgram>(place, [this](milliseconds time) { Pump(time); });
   }
-  void MoveTo(Point p) override { ::SetCursorPos(p.x, p.y); }
+  void MoveTo(Point p) override {
+    hand_ = p;
+    ::SetCursorPos(p.x, p.y);
+  }
   void Press(Button button) override {
-    SendMouse(button == Button::Left    ? MOUSEEVENTF_LEFTDOWN
-              : button == Button::Right ? MOUSEEVENTF_RIGHTDOWN
-                                        : MOUSEEVENTF_MIDDLEDOWN);
+    SendMouseAt(hand_, button == Button::Left    ? MOUSEEVENTF_LEFTDOWN
+                       : button == Button::Right ? MOUSEEVENTF_RIGHTDOWN
+                                                 : MOUSEEVENTF_MIDDLEDOWN);
   }
   void Release(Button button) override {
-    SendMouse(button == Button::Left    ? MOUSEEVENTF_LEFTUP
-              : button == Button::Right ? MOUSEEVENTF_RIGHTUP
-                                        : MOUSEEVENTF_MIDDLEUP);
+    SendMouseAt(hand_, button == Button::Left    ? MOUSEEVENTF_LEFTUP
+                       : button == Button::Right ? MOUSEEVENTF_RIGHTUP
+                                                 : MOUSEEVENTF_MIDDLEUP);
   }
-  void TurnWheel(int turn) override { SendMouse(MOUSEEVENTF_WHEEL, turn); }
+  void TurnWheel(int turn) override { SendWheel(turn); }
   void KeyDown(int virtualKey) override { SendKey(virtualKey, 0); }
   void KeyUp(int virtualKey) override { SendKey(virtualKey, KEYEVENTF_KEYUP); }
   void Later(milliseconds delay, std::function<void()> act) override {
@@ -206,6 +222,7 @@ class WindowsUnderTest final : public DesktopUnderTest {
 
  private:
   platform::WindowsDesktop desktop_;
+  std::atomic<Point> hand_ = kAside;
   Planner planner_;
 };
 
@@ -213,7 +230,7 @@ class WindowsUnderTest final : public DesktopUnderTest {
 
 std::unique_ptr<DesktopUnderTest> NewDesktopUnderTest() {
   // The pointer of the test before is not to touch the windows of this one.
-  ::SetCursorPos(1000, 700);
+  ::SetCursorPos(kAside.x, kAside.y);
   return std::make_unique<WindowsUnderTest>();
 }
 
