@@ -319,7 +319,7 @@ TEST_F(Windows, TheUsersWishToCloseIsAskedAndNoMore) {
   Click({kOurs.right - 12, kOurs.top + 12});
   EXPECT_EQ(listener.Count("close"), 1) << "the close box";
   under().KeyDown(key::kAlt);
-  PressKey(key::kF1 + 3);
+  PressKey(key::kF4);
   under().KeyUp(key::kAlt);
   EXPECT_TRUE(Until([&] { return listener.Count("close") == 2; })) << "Alt+F4";
   EXPECT_TRUE(window->Visible());
