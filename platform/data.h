@@ -20,8 +20,8 @@ struct DataContent {
   std::optional<std::u16string> text;
   std::optional<std::string> richText;  ///< Rich Text source, bytes as they are
   std::optional<Surface> picture;
-  std::vector<std::u16string> files;  ///< full paths
-  std::map<RegisteredFormat, std::string> registered;
+  std::vector<std::u16string> files;                   ///< full paths
+  std::map<RegisteredFormat, std::string> registered;  ///< what has no number is left out
 };
 
 /// What somebody offers: asked form by form, as each may cost the other program work.
@@ -40,11 +40,13 @@ class DataSource {
   [[nodiscard]] virtual std::optional<std::string> Registered(RegisteredFormat format) const = 0;
 };
 
-enum class ClipboardResult { Done, Busy };
+/// Busy: another program holds it; the content is unchanged. Failed: the system has not taken the
+/// new content; the old one is unchanged or, where it was given up already, gone.
+enum class ClipboardResult { Done, Busy, Failed };
 
 class Clipboard : public DataSource {
  public:
-  /// Replaces the clipboard's content. Busy: another program holds it; the content is unchanged.
+  /// Replaces the clipboard's content.
   [[nodiscard]] virtual ClipboardResult Put(const DataContent& content) = 0;
   [[nodiscard]] virtual ClipboardResult Clear() = 0;
   /// The same name gives the same number in every program of the session; 0 when it fails.

@@ -3,17 +3,11 @@
 #include <cassert>
 
 #include "platform/Form.h"
-#include "platform/pictures.h"
 
 namespace platform {
 namespace {
 Desktop* currentDesktop = nullptr;
 Forms* currentForms = nullptr;
-
-class NoPictures : public Pictures {
- public:
-  std::optional<Surface> Load(std::u16string_view) override { return std::nullopt; }
-};
 }  // namespace
 
 Desktop& TheDesktop() {
@@ -24,11 +18,6 @@ Desktop& TheDesktop() {
 Forms& TheForms() {
   assert(currentForms != nullptr);
   return *currentForms;
-}
-
-Pictures& Desktop::pictures() {
-  static NoPictures none;
-  return none;
 }
 
 DesktopScope::DesktopScope(Desktop& desktop)

@@ -34,8 +34,7 @@ class Desktop {
   virtual Input& input() = 0;
   virtual Locale& locale() = 0;
   virtual Menus& menus() = 0;
-  /// A desktop that says nothing else loads none.
-  virtual Pictures& pictures();
+  virtual Pictures& pictures() = 0;
   virtual Pump& pump() = 0;
   virtual Registry& registry() = 0;
   virtual Screen& screen() = 0;

@@ -1,4 +1,5 @@
-// The system's own dialogs. They run a nested message loop until the user has answered.
+// The system's own dialogs. They run a nested message loop, in which timers tick and other windows
+// of the program get their events, until the user has answered; their owner is disabled meanwhile.
 #pragma once
 
 #include <cstdint>
@@ -32,7 +33,7 @@ struct Message {
   std::u16string title;
   MessageButtons buttons = MessageButtons::Ok;
   MessageIcon icon = MessageIcon::None;
-  TopWindow* owner = nullptr;  ///< disabled while the box stands; may be none
+  TopWindow* owner = nullptr;  ///< may be none
 };
 
 struct FontChoice {

@@ -28,8 +28,8 @@ class Menus {
  public:
   virtual ~Menus() = default;
   /// Pops up at a screen point; runs a nested loop. The chosen entry's id, none when it was
-  /// dismissed. The owner is put in the foreground for it, so that a click elsewhere dismisses the
-  /// menu.
+  /// dismissed or the owner is closed. The owner is put in the foreground for it, so that a click
+  /// elsewhere dismisses the menu.
   [[nodiscard]] virtual std::optional<int> PopUp(TopWindow& owner, Point screen, const Menu& menu,
                                                  MenuButtons buttons) = 0;
 };

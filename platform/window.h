@@ -154,12 +154,13 @@ struct TopWindowOptions {
 
 class TopWindow : public Pane {
  public:
-  /// Showing with Activate gives it the activation; with NoActivate focus and order of the other
-  /// windows stay, and it comes to the top of its band.
+  /// Activate brings it to the top of its band (top-most or not) and gives it the activation.
+  /// NoActivate only shows it, behind those that came in front of it while it was hidden. A new
+  /// window stands at the top of its band.
   virtual void Show(ShowMode mode) = 0;
   /// The activation goes to the window that had it before, of whichever program.
   virtual void Hide() = 0;
-  /// In or out of the top-most band; not moved, sized or activated.
+  /// To the top of the top-most band, or out of it; not shown, moved, sized or activated.
   virtual void SetTopMost(bool topMost) = 0;
   /// Only what lies inside the ellipse (half-open box, window pixels) is seen and takes clicks;
   /// none for the whole window.
@@ -175,7 +176,8 @@ class TopWindow : public Pane {
   virtual void Close() = 0;
 };
 
-/// Whose window has the activation.
+/// Whose window has the activation. A message box or another dialog of the system that this program
+/// has up is nobody's of ours: it reads as another program's window.
 struct Foreground {
   const TopWindow* ours = nullptr;  ///< when it is one of this program's
   bool present = false;             ///< false in the moments when no window has it

@@ -44,6 +44,8 @@ class DesktopWindow {
   virtual void Paint(Surface& screen) = 0;
 
   virtual void OnActivation(Activation) {}
+  /// A window goes with its owner, which is still there for the time of this call.
+  virtual void OnOwnerClosed() {}
   virtual void OnPointer(const PointerInput&) {}
   virtual void OnKey(const KeyInput&) {}
   /// The points of drag events are screen pixels here.

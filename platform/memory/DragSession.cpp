@@ -32,7 +32,6 @@ void DragSession::Begin(DataContent data, DropEffect allowed) {
   allowed_ = allowed;
   effect_ = result_ = DropEffect::None;
   at_ = desktop_.input().PointerPosition();
-  pointersShown_.clear();
 }
 
 DragEvent DragSession::EventFor(DragState state, const DataSource* data) const {
@@ -70,11 +69,8 @@ void DragSession::Over() {
   if (hit != nullptr) {
     effect_ = hit->OnDragOver(EventFor(enters ? DragState::Enter : DragState::Over, &offered));
   }
-  ShowPointer(effect_);
-}
-
-void DragSession::ShowPointer(DropEffect effect) {
-  if (feedback_ != nullptr) pointersShown_.push_back(feedback_->PointerFor(effect));
+  // Pointers are not shown here; the source is asked for them all the same.
+  if (feedback_ != nullptr) static_cast<void>(feedback_->PointerFor(effect_));
 }
 
 void DragSession::Drop() {

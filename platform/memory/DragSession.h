@@ -2,9 +2,6 @@
 // pointer.
 #pragma once
 
-#include <optional>
-#include <vector>
-
 #include "platform/memory/DesktopWindow.h"
 
 namespace platform {
@@ -23,8 +20,6 @@ class DragSession {
   bool Active() const { return active_; }
   /// How the last drag ended.
   DropEffect Result() const { return result_; }
-  /// The pointers that the source asked for, one for each change; none for the system's own.
-  const std::vector<std::optional<Pointer>>& PointersShown() const { return pointersShown_; }
 
   void OnPointer(const PointerInput& input);
   void OnKey(const KeyInput& input);
@@ -36,7 +31,6 @@ class DragSession {
   void Drop();
   void LeaveTarget();
   void End(DropEffect result);
-  void ShowPointer(DropEffect effect);
   DragEvent EventFor(DragState state, const DataSource* data) const;
 
   MemoryDesktop& desktop_;
@@ -48,7 +42,6 @@ class DragSession {
   DragFeedback* feedback_ = nullptr;
   DesktopWindow* target_ = nullptr;
   Point at_{};
-  std::vector<std::optional<Pointer>> pointersShown_;
 };
 
 }  // namespace platform

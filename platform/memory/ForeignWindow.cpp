@@ -6,18 +6,10 @@
 #include "platform/memory/DragSession.h"
 #include "platform/memory/EditView.h"
 #include "platform/memory/MemoryDesktop.h"
-#include "platform/memory/MemoryTextDrawing.h"
+#include "platform/memory/WindowFrame.h"
 #include "platform/memory/WindowStack.h"
 
 namespace platform {
-namespace {
-
-constexpr int kFrame = 3;
-constexpr int kTitle = 19;
-constexpr Colour kActiveTitle = 0x6A240A;
-constexpr Colour kInactiveTitle = 0x808080;
-
-}  // namespace
 
 ForeignWindow::ForeignWindow(MemoryDesktop& desktop, std::u16string_view title, const Rect& bounds)
     : desktop_(desktop), title_(title), bounds_(bounds) {
@@ -31,9 +23,10 @@ ForeignWindow::~ForeignWindow() {
 }
 
 void ForeignWindow::Show(ShowMode mode) {
-  desktop_.stack().Raise(*this);
   shown_ = true;
-  if (mode == ShowMode::Activate) desktop_.stack().Activate(this);
+  if (mode == ShowMode::NoActivate) return;
+  desktop_.stack().Raise(*this);
+  desktop_.stack().Activate(this);
 }
 
 void ForeignWindow::Hide() {
@@ -48,19 +41,10 @@ void ForeignWindow::SetTopMost(bool topMost) {
 
 bool ForeignWindow::IsActive() const { return desktop_.stack().Active() == this; }
 
-Rect ForeignWindow::Inside() const {
-  return {bounds_.left + kFrame, bounds_.top + kFrame + kTitle, bounds_.right - kFrame,
-          bounds_.bottom - kFrame};
-}
+Rect ForeignWindow::Inside() const { return WindowFrame(bounds_).Inside(); }
 
 void ForeignWindow::Paint(Surface& screen) {
-  FillRect(screen, bounds_, 0xC0C0C0);
-  DrawEdge(screen, bounds_, Edge::Raised, {});
-  const Rect title{bounds_.left + kFrame, bounds_.top + kFrame, bounds_.right - kFrame,
-                   bounds_.top + kFrame + kTitle - 1};
-  FillRect(screen, title, IsActive() ? kActiveTitle : kInactiveTitle);
-  MemoryTextDrawing::Paint(screen, {title.left + 4, title.top, title.right, title.bottom}, title_,
-                           {.bold = true}, 0xFFFFFF, {.vertical = TextFormat::Vertical::Centre});
+  WindowFrame(bounds_).Paint(screen, title_, IsActive());
   FillRect(screen, Inside(), colour_);
   PaintInside(screen, Inside());
 }

@@ -16,6 +16,7 @@ constexpr RegisteredFormat kFirstFormat = 0xC000;
 DataContent CopyOf(const DataContent& content) {
   DataContent copy{content.text, content.richText, std::nullopt, content.files, content.registered};
   if (content.picture) copy.picture = content.picture->Clone();
+  copy.registered.erase(0);
   return copy;
 }
 
@@ -51,14 +52,12 @@ std::optional<std::string> MemoryClipboard::Registered(RegisteredFormat format) 
 ClipboardResult MemoryClipboard::Put(const DataContent& content) {
   if (held_ || faults_.Fails("Clipboard.Put")) return ClipboardResult::Busy;
   content_ = CopyOf(content);
-  owner_ = Owner::Ours;
   return ClipboardResult::Done;
 }
 
 ClipboardResult MemoryClipboard::Clear() {
   if (held_ || faults_.Fails("Clipboard.Clear")) return ClipboardResult::Busy;
   content_ = {};
-  owner_ = Owner::Ours;
   return ClipboardResult::Done;
 }
 
@@ -69,11 +68,6 @@ RegisteredFormat MemoryClipboard::Register(std::u16string_view name) {
   const auto number = static_cast<RegisteredFormat>(known - formats_.begin());
   if (known == formats_.end()) formats_.push_back(lower);
   return kFirstFormat + number;
-}
-
-void MemoryClipboard::PutByOther(DataContent content) {
-  content_ = std::move(content);
-  owner_ = Owner::OtherProgram;
 }
 
 }  // namespace platform

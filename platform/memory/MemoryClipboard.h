@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/data.h"
@@ -36,11 +37,12 @@ class MemoryClipboard : public Clipboard {
  public:
   explicit MemoryClipboard(Faults& faults) : faults_(faults) {}
 
-  bool OffersText() const override { return Opens() && offered_.OffersText(); }
-  bool OffersRichText() const override { return Opens() && offered_.OffersRichText(); }
-  bool OffersPicture() const override { return Opens() && offered_.OffersPicture(); }
-  bool OffersFiles() const override { return Opens() && offered_.OffersFiles(); }
-  bool Offers(RegisteredFormat format) const override { return Opens() && offered_.Offers(format); }
+  // What is offered can be asked of a clipboard that somebody holds, but not read.
+  bool OffersText() const override { return offered_.OffersText(); }
+  bool OffersRichText() const override { return offered_.OffersRichText(); }
+  bool OffersPicture() const override { return offered_.OffersPicture(); }
+  bool OffersFiles() const override { return offered_.OffersFiles(); }
+  bool Offers(RegisteredFormat format) const override { return offered_.Offers(format); }
   std::optional<std::u16string> Text() const override;
   std::optional<std::string> RichText() const override;
   std::optional<Surface> Picture() const override;
@@ -50,11 +52,9 @@ class MemoryClipboard : public Clipboard {
   ClipboardResult Clear() override;
   RegisteredFormat Register(std::u16string_view name) override;
 
-  enum class Owner { Nobody, Ours, OtherProgram };
-  Owner ContentOwner() const { return owner_; }
   /// What it holds, for tests and other programs.
   const DataContent& Content() const { return content_; }
-  void PutByOther(DataContent content);
+  void PutByOther(DataContent content) { content_ = std::move(content); }
   /// While another program holds it open nobody of us gets in.
   void HoldByOther(bool held) { held_ = held; }
 
@@ -64,7 +64,6 @@ class MemoryClipboard : public Clipboard {
   Faults& faults_;
   DataContent content_;
   OfferedData offered_{content_};
-  Owner owner_ = Owner::Nobody;
   bool held_ = false;
   std::vector<std::u16string> formats_;
 };

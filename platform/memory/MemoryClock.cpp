@@ -4,6 +4,14 @@ namespace platform {
 
 using namespace std::chrono;
 
+namespace {
+
+/// How far one reading of a counter moves the time.
+constexpr microseconds kStep(100);
+constexpr milliseconds kTicksAtStart(1'000'000);
+
+}  // namespace
+
 void MemoryClock::SetNow(const DateTime& now) {
   const year_month_day date{year{now.year}, month{static_cast<unsigned>(now.month)},
                             day{static_cast<unsigned>(now.day)}};
@@ -11,22 +19,18 @@ void MemoryClock::SetNow(const DateTime& now) {
                  seconds{now.second} + milliseconds{now.millisecond} - sinceStart_;
 }
 
-void MemoryClock::SetTickCount(std::uint32_t ticks) {
-  ticksAtStart_ = milliseconds{ticks} - duration_cast<milliseconds>(sinceStart_);
-}
-
 std::optional<std::int64_t> MemoryClock::PerformanceFrequency() {
   return hasPerformanceCounter_ ? std::optional(Duration{seconds{1}}.count()) : std::nullopt;
 }
 
 std::int64_t MemoryClock::PerformanceCounter() {
-  sinceStart_ += step_;
+  sinceStart_ += kStep;
   return sinceStart_.count();
 }
 
 std::uint32_t MemoryClock::TickCount() {
-  sinceStart_ += step_;
-  return static_cast<std::uint32_t>((ticksAtStart_ + floor<milliseconds>(sinceStart_)).count());
+  sinceStart_ += kStep;
+  return static_cast<std::uint32_t>((kTicksAtStart + floor<milliseconds>(sinceStart_)).count());
 }
 
 DateTime MemoryClock::Now() {

@@ -13,10 +13,7 @@ class MemoryClock : public Clock {
   using Duration = std::chrono::duration<std::int64_t, std::ratio<1, 10'000'000>>;
 
   void Advance(Duration by) { sinceStart_ += by; }
-  /// How far one reading of PerformanceCounter or TickCount moves the time.
-  void SetStep(Duration step) { step_ = step; }
   void SetNow(const DateTime& now);
-  void SetTickCount(std::uint32_t milliseconds);
   void TakeAwayPerformanceCounter() { hasPerformanceCounter_ = false; }
   /// Time since the clock was made, without moving it.
   Duration SinceStart() const { return sinceStart_; }
@@ -30,11 +27,9 @@ class MemoryClock : public Clock {
   using TimePoint = std::chrono::local_time<Duration>;
 
   Duration sinceStart_{0};
-  Duration step_{std::chrono::microseconds(100)};
-  /// The wall clock's and the tick count's readings at the start.
+  /// The wall clock's reading at the start.
   TimePoint wallAtStart_{std::chrono::local_days{std::chrono::year{2026} / 3 / 9} +
                          std::chrono::hours{14} + std::chrono::minutes{30}};
-  std::chrono::milliseconds ticksAtStart_{1'000'000};
   bool hasPerformanceCounter_ = true;
 };
 

@@ -60,7 +60,7 @@ class MemoryDesktop : public Desktop {
   WindowStack stack_;
   MemoryClipboard clipboard_{faults_};
   MemoryControls controls_{*this};
-  MemoryDialogs dialogs_{faults_};
+  MemoryDialogs dialogs_{faults_, this};
   MemoryFiles files_{faults_, clock_};
   MemoryInput input_{*this};
   MemoryLocale locale_{faults_, clock_};

@@ -1,5 +1,5 @@
-// Dialogs whose user is the test: it lays its answers down beforehand and reads afterwards what was
-// shown.
+// Dialogs whose user is the test: it presses their keys or lays its answers down beforehand, and
+// reads afterwards what was shown.
 #pragma once
 
 #include <deque>
@@ -11,19 +11,22 @@
 
 namespace platform {
 
+class MemoryDesktop;
+
 class MemoryDialogs : public Dialogs {
  public:
-  explicit MemoryDialogs(Faults& faults) : faults_(faults) {}
+  /// On a desktop of data alone (none) a dialog is answered at once.
+  explicit MemoryDialogs(Faults& faults, MemoryDesktop* desktop = nullptr)
+      : faults_(faults), desktop_(desktop) {}
 
-  /// Answers to the coming messages, in order. Without one a message is answered as by the Escape
-  /// key or, where that does nothing, by "Nein".
+  /// Answers to the coming messages, in order, after the time that a user takes. Without one, and
+  /// without a key, a message is given up as Unanswered.
   std::deque<Answer> answers;
   std::deque<std::optional<FontChoice>> fontChoices;
   /// Called while a message stands, as its nested loop would let other things happen.
   std::function<void(const Message&)> whileShown;
 
   std::vector<Message> shown;
-  std::vector<FontChoice> fontsOffered;
 
   /// Texts of all messages shown so far.
   [[nodiscard]] std::vector<std::u16string> Texts() const;
@@ -32,7 +35,11 @@ class MemoryDialogs : public Dialogs {
   std::optional<FontChoice> ChooseFont(const FontChoice& start, TopWindow* owner) override;
 
  private:
+  /// The key's answer; none when the user's time was over before.
+  std::optional<Answer> Stand(const Message& message, bool scripted) const;
+
   Faults& faults_;
+  MemoryDesktop* desktop_;
 };
 
 }  // namespace platform

@@ -34,10 +34,10 @@ MemoryMenus::MenuAnswer MemoryMenus::NextAnswer() {
 
 std::optional<int> MemoryMenus::PopUp(TopWindow& owner, Point screen, const Menu& menu,
                                       MenuButtons buttons) {
-  if (desktop_.faults().Fails("Menus.PopUp")) return std::nullopt;
-  shown_.push_back({screen, menu, buttons});
   auto& window = static_cast<MemoryTopWindow&>(owner);
-  if (window.Alive()) desktop_.stack().Activate(&window);
+  if (!window.Alive() || desktop_.faults().Fails("Menus.PopUp")) return std::nullopt;
+  shown_.push_back({screen, menu, buttons});
+  desktop_.stack().Activate(&window);
   desktop_.pump().DoEvents();
   if (whileOpen_) std::exchange(whileOpen_, nullptr)();
   const MenuAnswer answer = NextAnswer();

@@ -90,7 +90,11 @@ void MemoryNode::ChangeVisible(bool visible) {
 }
 
 void MemoryNode::ChangeEnabled(bool enabled) {
-  if (Fails("Window.SetEnabled") || enabled == enabled_) return;
+  if (!Fails("Window.SetEnabled")) Enable(enabled);
+}
+
+void MemoryNode::Enable(bool enabled) {
+  if (!Alive() || enabled == enabled_) return;
   enabled_ = enabled;
   if (!enabled) desktop_->windows().TakeFocusFrom(*this);
 }

@@ -51,6 +51,8 @@ class MemoryNode {
   void Move(const Rect& bounds);
   void ChangeVisible(bool visible);
   void ChangeEnabled(bool enabled);
+  /// The system's own doing, which no order can make fail.
+  void Enable(bool enabled);
   void TakeFocus();
   bool OwnsFocus() const;
   void ChangeToolTip(std::u16string_view text);

@@ -7,6 +7,8 @@
 namespace platform {
 namespace {
 
+constexpr Colour kBackground = 0xA56E3A;
+
 Colour ClassicColour(SystemColour colour) {
   switch (colour) {
     case SystemColour::Window:
@@ -54,7 +56,7 @@ Surface MemoryScreen::Compose() {
 }
 
 void MemoryScreen::ComposeInto(Surface& screen, const Rect& area) {
-  FillRect(screen, area.Intersected(screen.Area()), background_);
+  FillRect(screen, area.Intersected(screen.Area()), kBackground);
   for (DesktopWindow* window : desktop_.stack().Order()) {
     if (window->Shown() && !window->Area().Intersected(area).Empty()) window->Paint(screen);
   }

@@ -23,7 +23,6 @@ class MemoryScreen : public Screen {
   platform::Size SizeNow() const { return size_; }
   void SetDepth(int depth) { depth_ = depth; }
   void SetColour(SystemColour which, Colour colour) { colours_[which] = colour; }
-  void SetBackground(Colour colour) { background_ = colour; }
   /// The whole screen, whatever fails.
   [[nodiscard]] Surface Compose();
 
@@ -36,7 +35,6 @@ class MemoryScreen : public Screen {
   Surface scratch_;  ///< kept, since a large one costs more to make than to paint
   platform::Size size_{1024, 768};
   int depth_ = 32;
-  Colour background_ = 0xA56E3A;
   std::map<SystemColour, Colour> colours_;
 };
 

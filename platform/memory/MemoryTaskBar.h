@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "platform/memory/Faults.h"
 #include "platform/memory/MemoryPump.h"
@@ -13,24 +14,22 @@ class MemoryTaskBar : public TaskBar {
  public:
   MemoryTaskBar(MemoryPump& pump, Faults& faults) : pump_(pump), faults_(faults) {}
 
-  bool AddIcon(const Icon& icon, std::u16string_view tip,
+  bool AddIcon(const Icon&, std::u16string_view tip,
                std::function<void(TaskBarEvent)> happened) override {
-    if (HasIcon() || faults_.Fails("TaskBar.AddIcon")) return false;
+    RemoveIcon();
+    if (faults_.Fails("TaskBar.AddIcon")) return false;
     happened_ = std::move(happened);
-    icon_ = icon;
     tip_ = tip;
     return true;
   }
-  bool ChangeIcon(const Icon& icon, std::u16string_view tip) override {
+  bool ChangeIcon(const Icon&, std::u16string_view tip) override {
     if (!HasIcon() || faults_.Fails("TaskBar.ChangeIcon")) return false;
-    icon_ = icon;
     tip_ = tip;
     return true;
   }
   void RemoveIcon() override { happened_ = nullptr; }
 
   bool HasIcon() const { return happened_ != nullptr; }
-  const Icon& ShownIcon() const { return icon_; }
   const std::u16string& Tip() const { return tip_; }
   /// The user does it; it arrives when somebody pumps.
   void Happens(TaskBarEvent event) {
@@ -43,7 +42,6 @@ class MemoryTaskBar : public TaskBar {
   MemoryPump& pump_;
   Faults& faults_;
   std::function<void(TaskBarEvent)> happened_;
-  Icon icon_;
   std::u16string tip_;
 };
 

@@ -2,20 +2,13 @@
 
 #include <algorithm>
 
-#include "platform/drawing.h"
 #include "platform/memory/MemoryDesktop.h"
 #include "platform/memory/MemoryInput.h"
-#include "platform/memory/MemoryTextDrawing.h"
 #include "platform/memory/MemoryWindows.h"
-#include "platform/raster.h"
+#include "platform/memory/WindowFrame.h"
 
 namespace platform {
 namespace {
-
-constexpr int kFrame = 3;
-constexpr int kTitle = 19;
-constexpr Colour kActiveTitle = 0x800000;
-constexpr Colour kInactiveTitle = 0x808080;
 
 // An odd-sized ellipse has its middle on a pixel, an even-sized one between two: doubled
 // coordinates keep both exact.
@@ -34,7 +27,6 @@ MemoryTopWindow::MemoryTopWindow(MemoryDesktop& desktop, const TopWindowOptions&
       frame_(options.frame),
       caption_(options.caption),
       owner_(static_cast<MemoryTopWindow*>(options.owner)),
-      inTaskBar_(options.inTaskBar),
       activatable_(options.activatable),
       focus_(this) {
   SetTop(*this);
@@ -50,7 +42,7 @@ void MemoryTopWindow::Show(ShowMode mode) {
   if (Fails("TopWindow.Show")) return;
   WindowStack& stack = Desktop().stack();
   const bool comesUp = !OwnVisible();
-  if (comesUp || mode == ShowMode::Activate) stack.Raise(*this);
+  if (mode == ShowMode::Activate) stack.Raise(*this);
   SetVisibleFlag(true);
   if (comesUp) TellSeen(true);
   if (mode == ShowMode::Activate && Shown() && Enabled()) stack.Activate(this);
@@ -65,7 +57,7 @@ void MemoryTopWindow::Hide() {
 }
 
 void MemoryTopWindow::SetTopMost(bool topMost) {
-  if (Fails("TopWindow.SetTopMost")) return;
+  if (Fails("TopWindow.SetTopMost") || !(topMost || topMost_)) return;
   topMost_ = topMost;
   Desktop().stack().Raise(*this);
 }
@@ -80,22 +72,19 @@ void MemoryTopWindow::SetCaption(std::u16string_view caption) {
   if (!Fails("TopWindow.SetCaption")) caption_ = caption;
 }
 
-void MemoryTopWindow::SetIcon(const Icon& icon) {
-  if (!Fails("TopWindow.SetIcon")) icon_ = icon;
-}
-
-Point MemoryTopWindow::ClientOffset() const {
-  return Framed() ? Point{kFrame, kFrame + kTitle} : Point{};
-}
+Point MemoryTopWindow::ClientOffset() const { return Framed() ? WindowFrame::kOffset : Point{}; }
 
 Size MemoryTopWindow::ClientArea() const {
   const Size whole = Place().Size();
   if (!Framed()) return whole;
-  return {std::max(0, whole.width - 2 * kFrame), std::max(0, whole.height - 2 * kFrame - kTitle)};
+  return {std::max(0, whole.width - WindowFrame::kTaken.width),
+          std::max(0, whole.height - WindowFrame::kTaken.height)};
 }
 
 void MemoryTopWindow::SetClientSize(Size size) {
-  if (Framed()) size = {size.width + 2 * kFrame, size.height + 2 * kFrame + kTitle};
+  if (Framed()) {
+    size = {size.width + WindowFrame::kTaken.width, size.height + WindowFrame::kTaken.height};
+  }
   Move(Rect::At(Place().Origin(), size));
 }
 
@@ -106,9 +95,8 @@ void MemoryTopWindow::StartMove() {
 void MemoryTopWindow::Close() {
   if (!Alive()) return;
   SetVisibleFlag(false);
-  // The windows it owns go with it.
   for (DesktopWindow* other : std::vector(Desktop().stack().Order())) {
-    if (other->Owner() == this) static_cast<MemoryTopWindow*>(other)->Close();
+    if (other->Owner() == this) other->OnOwnerClosed();
   }
   MemoryDesktop& desktop = Desktop();
   desktop.windows().ReleaseCapture(*this);
@@ -123,37 +111,10 @@ bool MemoryTopWindow::Covers(Point screen) const {
          (!ellipse_ || InsideEllipse(*ellipse_, screen - Place().Origin()));
 }
 
-Rect MemoryTopWindow::TitleBar() const {
-  if (!Framed()) return {};
-  const Rect& all = Place();
-  return {all.left + kFrame, all.top + kFrame, all.right - kFrame, all.top + kFrame + kTitle - 1};
-}
-
-Rect MemoryTopWindow::CloseBox() const {
-  if (!Framed()) return {};
-  const Rect title = TitleBar();
-  return {title.right - 18, title.top + 2, title.right - 2, title.bottom - 2};
-}
-
-void MemoryTopWindow::PaintFrame(Surface& screen) {
-  FillRect(screen, Place(), 0xC0C0C0);
-  DrawEdge(screen, Place(), Edge::Raised, {});
-  const bool active = Desktop().stack().Active() == this;
-  FillRect(screen, TitleBar(), active ? kActiveTitle : kInactiveTitle);
-  const TextFormat middle{.vertical = TextFormat::Vertical::Centre, .ellipsis = true};
-  const Rect title = TitleBar();
-  MemoryTextDrawing::Paint(screen, {title.left + 4, title.top, title.right - 20, title.bottom},
-                           caption_, {.bold = true}, 0xFFFFFF, middle);
-  FillRect(screen, CloseBox(), 0xC0C0C0);
-  DrawEdge(screen, CloseBox(), Edge::Raised, {});
-  MemoryTextDrawing::Paint(
-      screen, CloseBox().Grown(-1), u"x", {.bold = true}, 0,
-      {.horizontal = TextFormat::Horizontal::Centre, .vertical = TextFormat::Vertical::Centre});
-}
-
 void MemoryTopWindow::Paint(Surface& screen) {
   const Surface behind = ellipse_ ? screen.Clone() : Surface();
-  if (Framed()) PaintFrame(screen);
+  const bool active = Desktop().stack().Active() == this;
+  if (Framed()) WindowFrame(Place()).Paint(screen, caption_, active);
   const Rect client = Rect::At(ClientOnScreen(), ClientArea());
   PaintOn(screen, client, screen.Area());
   if (!ellipse_) return;
@@ -177,9 +138,10 @@ void MemoryTopWindow::OnActivation(Activation activation) {
 bool MemoryTopWindow::PressFrame(const PointerInput& input) {
   if (!Framed() || Rect::At(ClientOnScreen(), ClientArea()).Contains(input.state.at)) return false;
   if (input.kind != PointerInput::Kind::Press || input.button != Button::Left) return true;
-  if (CloseBox().Contains(input.state.at)) {
+  const WindowFrame frame(Place());
+  if (frame.CloseBox().Contains(input.state.at)) {
     TopEvents().OnCloseRequest();
-  } else if (TitleBar().Contains(input.state.at)) {
+  } else if (frame.TitleBar().Contains(input.state.at)) {
     StartMove();
   }
   return true;

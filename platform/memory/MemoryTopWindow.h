@@ -19,7 +19,8 @@ class MemoryTopWindow final : public PaneOf<TopWindow>, public DesktopWindow {
   void SetTopMost(bool topMost) override;
   bool SetEllipseRegion(const std::optional<Rect>& box) override;
   void SetCaption(std::u16string_view caption) override;
-  void SetIcon(const Icon& icon) override;
+  /// Shown nowhere here.
+  void SetIcon(const Icon&) override {}
   Size ClientSize() const override { return ClientArea(); }
   void SetClientSize(Size size) override;
   void StartMove() override;
@@ -33,6 +34,7 @@ class MemoryTopWindow final : public PaneOf<TopWindow>, public DesktopWindow {
   bool Activatable() const override { return activatable_; }
   bool TopMost() const override { return topMost_; }
   DesktopWindow* Owner() const override { return owner_; }
+  void OnOwnerClosed() override { Close(); }
   bool Covers(Point screen) const override;
   void Paint(Surface& screen) override;
   void OnActivation(Activation activation) override;
@@ -42,11 +44,6 @@ class MemoryTopWindow final : public PaneOf<TopWindow>, public DesktopWindow {
   DropEffect OnDropped(const DragEvent& event) override { return PassDrag(event, true); }
 
   const std::u16string& Caption() const { return caption_; }
-  const Icon& WindowIcon() const { return icon_; }
-  bool InTaskBar() const { return inTaskBar_; }
-  /// Presses on the title bar move the window; the close box asks for its end.
-  Rect TitleBar() const;
-  Rect CloseBox() const;
 
   Point ClientOffset() const override;
   Size ClientArea() const override;
@@ -54,7 +51,6 @@ class MemoryTopWindow final : public PaneOf<TopWindow>, public DesktopWindow {
  private:
   friend class MemoryWindows;
   bool Framed() const { return frame_ == FrameStyle::Dialog; }
-  void PaintFrame(Surface& screen);
   bool PressFrame(const PointerInput& input);
   void TypeKey(const KeyInput& input);
   DropEffect PassDrag(const DragEvent& event, bool drop);
@@ -64,9 +60,7 @@ class MemoryTopWindow final : public PaneOf<TopWindow>, public DesktopWindow {
   FrameStyle frame_;
   std::u16string caption_;
   MemoryTopWindow* owner_;
-  bool inTaskBar_;
   bool activatable_;
-  Icon icon_;
   bool topMost_ = false;
   std::optional<Rect> ellipse_;
   MemoryNode* focus_ = nullptr;       ///< who has the keyboard when this window is active

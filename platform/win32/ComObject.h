@@ -1,4 +1,5 @@
-// The life of a small COM object of one interface: counted, deleted with its last reference.
+// The life of a small COM object of one interface: counted, deleted with its last reference. And
+// how its functions keep what is thrown from their callers.
 #pragma once
 
 #include <atomic>
@@ -33,5 +34,15 @@ class ComObject : public Interface {
  private:
   std::atomic<ULONG> references_{0};
 };
+
+/// Nothing unwinds into a caller that may be the system or another program.
+template <typename Handler>
+HRESULT Guarded(Handler handler) noexcept {
+  try {
+    return handler();
+  } catch (...) {
+    return E_UNEXPECTED;
+  }
+}
 
 }  // namespace platform

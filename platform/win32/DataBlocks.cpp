@@ -69,6 +69,8 @@ std::optional<std::uint64_t> PixelBytes(const BITMAPINFOHEADER& header) {
       return static_cast<std::uint64_t>(height) * BytesPerRow(header.biWidth, header.biBitCount);
     case BI_RLE4:
     case BI_RLE8:
+      // Here the size is no mere convenience: nothing else says where the pixels end.
+      if (header.biSizeImage == 0) return {};
       return header.biSizeImage;
     default:
       return {};
@@ -83,31 +85,17 @@ bool IsWhole(const BITMAPINFOHEADER& header, std::size_t bytes, std::size_t pixe
   return header.biSize <= bytes && header.biSize + ColourTableBytes(header) <= bytes;
 }
 
+/// Empty where the system makes no picture of it.
 Surface Painted(const BITMAPINFO& info, const void* pixels) {
   const int width = static_cast<int>(info.bmiHeader.biWidth);
   const int height = std::abs(static_cast<int>(info.bmiHeader.biHeight));
   Surface picture(Size{width, height});
   if (picture.Empty()) return picture;
-  ::StretchDIBits(DcOf(picture), 0, 0, width, height, 0, 0, width, height, pixels, &info,
-                  DIB_RGB_COLORS, SRCCOPY);
+  const int rows = ::StretchDIBits(DcOf(picture), 0, 0, width, height, 0, 0, width, height, pixels,
+                                   &info, DIB_RGB_COLORS, SRCCOPY);
   ::GdiFlush();
+  if (rows == 0 || rows == static_cast<int>(GDI_ERROR)) return {};
   return picture;
-}
-
-}  // namespace
-
-UINT RichTextFormat() {
-  static const UINT format = ::RegisterClipboardFormatW(L"Rich Text Format");
-  return format;
-}
-
-OwnedGlobal BlockOfBytes(std::string_view bytes) {
-  // A block of no bytes would count as thrown away.
-  OwnedGlobal block(::GlobalAlloc(GMEM_MOVEABLE, std::max<std::size_t>(bytes.size(), 1)));
-  const Locked memory(block.get());
-  if (!memory.As<char>()) return {};
-  std::ranges::copy(bytes, memory.As<char>());
-  return block;
 }
 
 OwnedGlobal BlockOfRichText(std::string_view source) {
@@ -132,6 +120,34 @@ OwnedGlobal BlockOfFiles(const std::vector<std::u16string>& files) {
   for (const std::u16string& file : files) bytes += AsBytes(file + u'\0');
   Append(bytes, u'\0');
   return BlockOfBytes(bytes);
+}
+
+}  // namespace
+
+UINT RichTextFormat() {
+  static const UINT format = ::RegisterClipboardFormatW(L"Rich Text Format");
+  return format;
+}
+
+OwnedGlobal BlockOfBytes(std::string_view bytes) {
+  // A block of no bytes would count as thrown away.
+  OwnedGlobal block(::GlobalAlloc(GMEM_MOVEABLE, std::max<std::size_t>(bytes.size(), 1)));
+  const Locked memory(block.get());
+  if (!memory.As<char>()) return {};
+  std::ranges::copy(bytes, memory.As<char>());
+  return block;
+}
+
+std::vector<DataBlock> BlocksOf(const DataContent& content) {
+  std::vector<DataBlock> blocks;
+  for (const auto& [format, bytes] : content.registered) {
+    if (format != 0) blocks.push_back({format, BlockOfBytes(bytes)});
+  }
+  if (content.richText) blocks.push_back({RichTextFormat(), BlockOfRichText(*content.richText)});
+  if (content.picture) blocks.push_back({CF_DIB, BlockOfPicture(*content.picture)});
+  if (!content.files.empty()) blocks.push_back({CF_HDROP, BlockOfFiles(content.files)});
+  if (content.text) blocks.push_back({CF_UNICODETEXT, BlockOfText(*content.text)});
+  return blocks;
 }
 
 std::string BytesOfBlock(HGLOBAL block) {

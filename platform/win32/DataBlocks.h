@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/surface.h"
+#include "platform/data.h"
 #include "platform/win32/handles.h"
 
 namespace platform {
@@ -16,10 +16,14 @@ UINT RichTextFormat();
 
 /// Null where there is no memory for it.
 OwnedGlobal BlockOfBytes(std::string_view bytes);
-OwnedGlobal BlockOfRichText(std::string_view source);
-OwnedGlobal BlockOfText(std::u16string_view text);                   ///< CF_UNICODETEXT
-OwnedGlobal BlockOfPicture(const Surface& picture);                  ///< CF_DIB
-OwnedGlobal BlockOfFiles(const std::vector<std::u16string>& files);  ///< CF_HDROP
+
+struct DataBlock {
+  UINT format;
+  OwnedGlobal block;  ///< null where there is no memory for it
+};
+
+/// Every form of the content, the richest first: programs take the first that they know.
+std::vector<DataBlock> BlocksOf(const DataContent& content);
 
 /// The content of another program's block, which may hold anything; the block stays the caller's.
 std::string BytesOfBlock(HGLOBAL block);

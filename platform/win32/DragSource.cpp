@@ -20,16 +20,19 @@ class DragSource final : public ComObject<IDropSource> {
   }
 
   HRESULT STDMETHODCALLTYPE GiveFeedback(DWORD effect) override {
-    if (!feedback_) return DRAGDROP_S_USEDEFAULTCURSORS;
     // While scrolling the target adds a bit of its own.
-    const auto pointer = feedback_->PointerFor(
-        static_cast<DropEffect>(effect & (DROPEFFECT_COPY | DROPEFFECT_MOVE)));
+    const auto known = static_cast<DropEffect>(effect & (DROPEFFECT_COPY | DROPEFFECT_MOVE));
+    return Guarded([&] { return ShowPointer(known); });
+  }
+
+ private:
+  HRESULT ShowPointer(DropEffect effect) {
+    const auto pointer = feedback_ ? feedback_->PointerFor(effect) : std::nullopt;
     if (!pointer) return DRAGDROP_S_USEDEFAULTCURSORS;
     ::SetCursor(CursorOf(*pointer));
     return S_OK;
   }
 
- private:
   DragFeedback* feedback_;
 };
 

@@ -25,7 +25,10 @@ class DropTarget final : public ComObject<IDropTarget> {
     data_.Reset();
     DragEvent event;
     event.state = DragState::Leave;
-    return Guarded([&] { static_cast<void>(events_.OnDrag(event)); });
+    return Guarded([&] {
+      static_cast<void>(events_.OnDrag(event));
+      return S_OK;
+    });
   }
   HRESULT STDMETHODCALLTYPE Drop(IDataObject* data, DWORD keys, POINTL at, DWORD* effect) override {
     const OleDataSource source(data);
@@ -60,18 +63,10 @@ class DropTarget final : public ComObject<IDropTarget> {
   static HRESULT Answer(DWORD* effect, Handler handler) {
     const DWORD allowed = *effect;
     *effect = DROPEFFECT_NONE;
-    return Guarded([&] { *effect = static_cast<DWORD>(handler()) & allowed; });
-  }
-
-  // Nothing unwinds into the drag loop, which may be another program's.
-  template <typename Handler>
-  static HRESULT Guarded(Handler handler) noexcept {
-    try {
-      handler();
+    return Guarded([&] {
+      *effect = static_cast<DWORD>(handler()) & allowed;
       return S_OK;
-    } catch (...) {
-      return E_UNEXPECTED;
-    }
+    });
   }
 
   HWND window_;

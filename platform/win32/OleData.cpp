@@ -18,24 +18,6 @@ FORMATETC FormatOf(UINT format) {
   return {static_cast<CLIPFORMAT>(format), nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL};
 }
 
-struct OfferedBlock {
-  FORMATETC format;
-  OwnedGlobal block;
-};
-
-std::vector<OfferedBlock> BlocksOf(const DataContent& content) {
-  std::vector<OfferedBlock> blocks;
-  const auto offer = [&blocks](UINT format, OwnedGlobal block) {
-    if (block) blocks.push_back({FormatOf(format), std::move(block)});
-  };
-  for (const auto& [format, bytes] : content.registered) offer(format, BlockOfBytes(bytes));
-  if (content.richText) offer(RichTextFormat(), BlockOfRichText(*content.richText));
-  if (content.text) offer(CF_UNICODETEXT, BlockOfText(*content.text));
-  if (content.picture) offer(CF_DIB, BlockOfPicture(*content.picture));
-  if (!content.files.empty()) offer(CF_HDROP, BlockOfFiles(content.files));
-  return blocks;
-}
-
 OwnedGlobal CopyOf(HGLOBAL block) {
   const SIZE_T size = ::GlobalSize(block);
   OwnedGlobal copy(::GlobalAlloc(GMEM_MOVEABLE, size));
@@ -48,10 +30,10 @@ OwnedGlobal CopyOf(HGLOBAL block) {
 
 class OfferedData final : public ComObject<IDataObject> {
  public:
-  explicit OfferedData(std::vector<OfferedBlock> blocks) : blocks_(std::move(blocks)) {}
+  explicit OfferedData(std::vector<DataBlock> blocks) : blocks_(std::move(blocks)) {}
 
   HRESULT STDMETHODCALLTYPE GetData(FORMATETC* format, STGMEDIUM* medium) override {
-    const OfferedBlock* offered = Find(format);
+    const DataBlock* offered = Find(format);
     if (!offered) return DV_E_FORMATETC;
     OwnedGlobal copy = CopyOf(offered->block.get());
     if (!copy) return E_OUTOFMEMORY;
@@ -65,9 +47,11 @@ class OfferedData final : public ComObject<IDataObject> {
   }
   HRESULT STDMETHODCALLTYPE EnumFormatEtc(DWORD direction, IEnumFORMATETC** formats) override {
     if (direction != DATADIR_GET) return E_NOTIMPL;
-    std::vector<FORMATETC> offered;
-    for (const OfferedBlock& each : blocks_) offered.push_back(each.format);
-    return ::SHCreateStdEnumFmtEtc(static_cast<UINT>(offered.size()), offered.data(), formats);
+    return Guarded([&] {
+      std::vector<FORMATETC> offered;
+      for (const DataBlock& each : blocks_) offered.push_back(FormatOf(each.format));
+      return ::SHCreateStdEnumFmtEtc(static_cast<UINT>(offered.size()), offered.data(), formats);
+    });
   }
 
   HRESULT STDMETHODCALLTYPE GetDataHere(FORMATETC*, STGMEDIUM*) override { return E_NOTIMPL; }
@@ -85,9 +69,9 @@ class OfferedData final : public ComObject<IDataObject> {
   }
 
  private:
-  const OfferedBlock* Find(const FORMATETC* wanted) const {
-    for (const OfferedBlock& each : blocks_) {
-      const bool same = each.format.cfFormat == wanted->cfFormat;
+  const DataBlock* Find(const FORMATETC* wanted) const {
+    for (const DataBlock& each : blocks_) {
+      const bool same = each.format == wanted->cfFormat;
       if (same && (wanted->tymed & TYMED_HGLOBAL) && wanted->dwAspect == DVASPECT_CONTENT) {
         return &each;
       }
@@ -95,7 +79,7 @@ class OfferedData final : public ComObject<IDataObject> {
     return nullptr;
   }
 
-  std::vector<OfferedBlock> blocks_;
+  std::vector<DataBlock> blocks_;
 };
 
 /// What a data object handed out, given back at the end of the scope.
@@ -119,7 +103,9 @@ class Medium {
 }  // namespace
 
 ComPtr<IDataObject> NewDataObject(const DataContent& content) {
-  return new OfferedData(BlocksOf(content));
+  std::vector<DataBlock> blocks = BlocksOf(content);
+  std::erase_if(blocks, [](const DataBlock& each) { return !each.block; });
+  return new OfferedData(std::move(blocks));
 }
 
 bool OleDataSource::Has(UINT format) const {

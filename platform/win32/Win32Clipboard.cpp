@@ -1,5 +1,7 @@
 #include "platform/win32/Win32Clipboard.h"
 
+#include <algorithm>
+
 #include "platform/win32/DataBlocks.h"
 #include "platform/win32/wide.h"
 
@@ -33,22 +35,11 @@ class OpenedClipboard {
   bool opened_;
 };
 
-struct Form {
-  UINT format;
-  OwnedGlobal block;
-};
-
-/// The richest form first: programs take the first that they know.
-std::vector<Form> FormsOf(const DataContent& content) {
-  std::vector<Form> forms;
-  for (const auto& [format, bytes] : content.registered) {
-    forms.push_back({format, BlockOfBytes(bytes)});
-  }
-  if (content.richText) forms.push_back({RichTextFormat(), BlockOfRichText(*content.richText)});
-  if (content.picture) forms.push_back({CF_DIB, BlockOfPicture(*content.picture)});
-  if (!content.files.empty()) forms.push_back({CF_HDROP, BlockOfFiles(content.files)});
-  if (content.text) forms.push_back({CF_UNICODETEXT, BlockOfText(*content.text)});
-  return forms;
+/// A block that was taken belongs to the system.
+bool HandOver(DataBlock& data) {
+  if (!::SetClipboardData(data.format, data.block.get())) return false;
+  static_cast<void>(data.block.release());
+  return true;
 }
 
 bool Has(UINT format) { return format != 0 && ::IsClipboardFormatAvailable(format); }
@@ -70,14 +61,15 @@ Win32Clipboard::Win32Clipboard()
                                nullptr)) {}
 
 ClipboardResult Win32Clipboard::Put(const DataContent& content) {
-  std::vector<Form> forms = FormsOf(content);
+  std::vector<DataBlock> blocks = BlocksOf(content);
+  // One that is missing would be taken as a promise to make it when somebody asks.
+  const auto made = [](const DataBlock& each) { return each.block != nullptr; };
+  if (!std::ranges::all_of(blocks, made)) return ClipboardResult::Failed;
   const OpenedClipboard opened(owner_.get());
   if (!opened || !::EmptyClipboard()) return ClipboardResult::Busy;
-  for (Form& form : forms) {
-    // A block that was taken belongs to the system.
-    if (::SetClipboardData(form.format, form.block.get())) (void)form.block.release();
-  }
-  return ClipboardResult::Done;
+  if (std::ranges::all_of(blocks, HandOver)) return ClipboardResult::Done;
+  ::EmptyClipboard();
+  return ClipboardResult::Failed;
 }
 
 ClipboardResult Win32Clipboard::Clear() { return Put({}); }

@@ -5,12 +5,22 @@
 #include "platform/win32/wide.h"
 
 namespace platform {
+namespace {
+
+bool HasCancel(MessageButtons buttons) {
+  return buttons == MessageButtons::OkCancel || buttons == MessageButtons::YesNoCancel;
+}
+
+}  // namespace
 
 Answer Win32Dialogs::ShowMessage(const Message& message) {
   const auto style = static_cast<UINT>(message.buttons) | static_cast<UINT>(message.icon);
   const int answer =
       ::MessageBoxW(HandleOf(message.owner), Wide(message.text), Wide(message.title), style);
-  return answer == 0 ? Unanswered(message.buttons) : static_cast<Answer>(answer);
+  // Escape answers a box without a Cancel button too under Wine.
+  const bool noSuchButton = answer == IDCANCEL && !HasCancel(message.buttons);
+  const bool answered = answer != 0 && !noSuchButton;
+  return answered ? static_cast<Answer>(answer) : Unanswered(message.buttons);
 }
 
 std::optional<FontChoice> Win32Dialogs::ChooseFont(const FontChoice& start, TopWindow* owner) {

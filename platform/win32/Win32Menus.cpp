@@ -32,6 +32,7 @@ OwnedMenu NewMenu(const Menu& entries) {
 std::optional<int> Win32Menus::PopUp(TopWindow& owner, Point screen, const Menu& menu,
                                      MenuButtons buttons) {
   const HWND window = HandleOf(&owner);
+  if (!window) return std::nullopt;
   const OwnedMenu popup = NewMenu(menu);
   const UINT button = buttons == MenuButtons::LeftAndRight ? TPM_RIGHTBUTTON : TPM_LEFTBUTTON;
   // Without the foreground a click elsewhere would not reach the menu.

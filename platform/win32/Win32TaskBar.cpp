@@ -10,9 +10,8 @@
 namespace platform {
 namespace {
 
-constexpr UINT kIconMessage = WM_APP + 1;
+constexpr UINT kHappened = WM_APP + 2;  // from the window to itself; wParam: the event
 constexpr UINT kIconId = 1;
-constexpr const wchar_t* kClass = L"DorvalinTaskBarIcon";
 
 UINT TaskBarCreated() {
   static const UINT message = ::RegisterWindowMessageW(L"TaskbarCreated");
@@ -38,10 +37,10 @@ OwnedWindow NewHiddenWindow(WNDPROC procedure, void* object) {
   WNDCLASSW windowClass{};
   windowClass.lpfnWndProc = procedure;
   windowClass.hInstance = program;
-  windowClass.lpszClassName = kClass;
+  windowClass.lpszClassName = kTaskBarIconClass;
   ::RegisterClassW(&windowClass);
-  OwnedWindow window(::CreateWindowExW(WS_EX_TOOLWINDOW, kClass, L"", WS_POPUP, 0, 0, 0, 0, nullptr,
-                                       nullptr, program, nullptr));
+  OwnedWindow window(::CreateWindowExW(WS_EX_TOOLWINDOW, kTaskBarIconClass, L"", WS_POPUP, 0, 0, 0,
+                                       0, nullptr, nullptr, program, nullptr));
   ::SetWindowLongPtrW(window.get(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(object));
   return window;
 }
@@ -54,12 +53,12 @@ bool Win32TaskBar::AddIcon(const Icon& icon, std::u16string_view tip,
                            std::function<void(TaskBarEvent)> happened) {
   RemoveIcon();
   window_ = NewHiddenWindow(&Win32TaskBar::Procedure, this);
+  if (!window_) return false;
   icon_ = IconHandleOf(icon);
   tip_ = tip;
   happened_ = std::move(happened);
-  if (Tell(NIM_ADD)) return true;
-  window_.reset();
-  return false;
+  Tell(NIM_ADD);
+  return true;
 }
 
 bool Win32TaskBar::ChangeIcon(const Icon& icon, std::u16string_view tip) {
@@ -67,7 +66,8 @@ bool Win32TaskBar::ChangeIcon(const Icon& icon, std::u16string_view tip) {
   // The old handle must outlive the change.
   const OwnedIcon former = std::exchange(icon_, IconHandleOf(icon));
   tip_ = tip;
-  return Tell(NIM_MODIFY);
+  Tell(NIM_MODIFY);
+  return true;
 }
 
 void Win32TaskBar::RemoveIcon() {
@@ -83,28 +83,52 @@ bool Win32TaskBar::Tell(DWORD operation) {
   data.hWnd = window_.get();
   data.uID = kIconId;
   data.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP;
-  data.uCallbackMessage = kIconMessage;
+  data.uCallbackMessage = kTaskBarIconMessage;
   data.hIcon = icon_.get();
   std::copy_n(Wide(tip_), std::min(tip_.size(), std::size(data.szTip) - 1), data.szTip);
   return ::Shell_NotifyIconW(operation, &data) != 0;
 }
 
-void Win32TaskBar::OnMouse(UINT message) {
-  const std::optional<TaskBarEvent> event = EventOf(message);
+void Win32TaskBar::Happened(TaskBarEvent event) {
   // A copy: what happens then may remove the icon or put up another.
   const auto happened = happened_;
-  if (event && happened) happened(*event);
+  if (happened) happened(event);
+}
+
+LRESULT Win32TaskBar::Receive(UINT id, WPARAM wParam, LPARAM lParam) {
+  switch (id) {
+    case kTaskBarIconMessage:
+      // The task bar sends its clicks, and what is sent comes through also while the program types
+      // and lets nothing else in. What the click leads to waits for the loop.
+      if (const auto event = EventOf(static_cast<UINT>(lParam))) {
+        ::PostMessageW(window_.get(), kHappened, static_cast<WPARAM>(*event), 0);
+      }
+      return 0;
+    case kHappened:
+      Happened(static_cast<TaskBarEvent>(wParam));
+      return 0;
+    case WM_CLOSE:
+      // Another program's wish; the window goes with its icon.
+      return 0;
+    default:
+      if (id == TaskBarCreated()) Tell(NIM_ADD);
+      return ::DefWindowProcW(window_.get(), id, wParam, lParam);
+  }
 }
 
 LRESULT CALLBACK Win32TaskBar::Procedure(HWND window, UINT id, WPARAM wParam,
                                          LPARAM lParam) noexcept {
   auto* self = reinterpret_cast<Win32TaskBar*>(::GetWindowLongPtrW(window, GWLP_USERDATA));
-  if (self && id == kIconMessage) {
-    self->OnMouse(static_cast<UINT>(lParam));
+  // While it is made and while it goes, its owner does not know it.
+  if (!self || self->window_.get() != window) {
+    return ::DefWindowProcW(window, id, wParam, lParam);
+  }
+  try {
+    return self->Receive(id, wParam, lParam);
+  } catch (...) {
+    // What a click could not do must not unwind through the system.
     return 0;
   }
-  if (self && id == TaskBarCreated()) self->Tell(NIM_ADD);
-  return ::DefWindowProcW(window, id, wParam, lParam);
 }
 
 }  // namespace platform

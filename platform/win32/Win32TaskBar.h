@@ -7,8 +7,12 @@
 
 namespace platform {
 
+inline constexpr wchar_t kTaskBarIconClass[] = L"DorvalinTaskBarIcon";
+/// What the task bar sends to the icon's window; lParam is the message of the mouse.
+inline constexpr UINT kTaskBarIconMessage = WM_APP + 1;
+
 /// The icon reports to a hidden window of its own, which also hears when the task bar was started
-/// anew and has forgotten it.
+/// (for the first time, or anew and has forgotten the icon).
 class Win32TaskBar final : public TaskBar {
  public:
   ~Win32TaskBar() override;
@@ -19,7 +23,8 @@ class Win32TaskBar final : public TaskBar {
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT id, WPARAM wParam, LPARAM lParam) noexcept;
-  void OnMouse(UINT message);
+  LRESULT Receive(UINT id, WPARAM wParam, LPARAM lParam);
+  void Happened(TaskBarEvent event);
   bool Tell(DWORD operation);
 
   OwnedWindow window_;

@@ -37,9 +37,10 @@ bool HasExtendedStyle(HWND window, DWORD style) {
 
 // Never shown; a window that it owns has no button in the task bar and yet a whole title bar.
 HWND HiddenOwner() {
-  static const HWND owner = ::CreateWindowExW(0, L"STATIC", nullptr, WS_POPUP, 0, 0, 0, 0, nullptr,
-                                              nullptr, ::GetModuleHandleW(nullptr), nullptr);
-  return owner;
+  static const OwnedWindow owner(::CreateWindowExW(0, L"STATIC", nullptr, WS_POPUP, 0, 0, 0, 0,
+                                                   nullptr, nullptr, ::GetModuleHandleW(nullptr),
+                                                   nullptr));
+  return owner.get();
 }
 
 HWND OwnerOf(const TopWindowOptions& options) {
@@ -75,8 +76,9 @@ void Win32TopWindow::SetVisible(bool visible) {
 
 void Win32TopWindow::Show(ShowMode mode) {
   if (!Handle()) return;
+  const UINT order = mode == ShowMode::Activate ? 0 : SWP_NOZORDER;
   ::SetWindowPos(Handle(), HWND_TOP, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW | order);
   UpdateSeen();
   if (mode == ShowMode::Activate && Handle()) BringToForeground(Handle());
 }

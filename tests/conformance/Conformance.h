@@ -44,6 +44,7 @@ class Listener : public platform::TopWindowEvents {
   void OnResize() override { log.emplace_back("resize"); }
   void OnVisible(bool visible) override { log.emplace_back(visible ? "seen" : "gone"); }
   void OnActivate(platform::Activation now) override;
+  void OnCloseRequest() override { log.emplace_back("close"); }
   platform::DropEffect OnDrag(const platform::DragEvent& event) override;
   platform::DropEffect OnDrop(const platform::DragEvent& event) override;
 };

@@ -15,6 +15,8 @@
 #include "platform/desktop.h"
 #include "platform/geometry.h"
 #include "platform/input.h"
+#include "platform/menus.h"
+#include "platform/taskbar.h"
 
 namespace conformance {
 
@@ -55,8 +57,14 @@ class DesktopUnderTest {
   /// Happens after the delay whoever pumps then; it may use the hands and nothing else.
   virtual void Later(std::chrono::milliseconds delay, std::function<void()> act) = 0;
   /// The next pop-up menu is answered by its entry at this place, counted from 1 without the
-  /// separators.
+  /// separators; 0 dismisses it, and so does an entry that cannot be chosen.
   virtual void ChooseInMenu(int place) = 0;
+  /// The entries that stood in the menu that was answered last, without their captions.
+  virtual platform::Menu MenuSeen() = 0;
+  /// With the task bar icon. May be called from a planned act.
+  virtual void OnIcon(platform::TaskBarEvent event) = 0;
+  /// Another program takes the clipboard for itself, and gives it back.
+  virtual void HoldClipboard(bool held) = 0;
 
   /// What the user sees at the pointer.
   virtual std::u16string ToolTipShown() = 0;

@@ -1,4 +1,4 @@
-// Registry, files, locale and clipboard.
+// Registry, files and locale.
 #include <gmock/gmock.h>
 
 #include <algorithm>
@@ -328,54 +328,6 @@ TEST_F(InLocale, WhatIsWrittenIsReadAgain) {
   EXPECT_EQ(locale().ParseDate(locale().LongDate(kWhen)), (platform::DateTime{2026, 3, 9}));
   EXPECT_EQ(locale().ParseTime(locale().LongTime(kWhen)),
             (platform::DateTime{1601, 1, 1, 7, 5, 4}));
-}
-
-class OnClipboard : public Conformance {
- protected:
-  platform::Clipboard& clipboard() { return desktop().clipboard(); }
-};
-
-TEST_F(OnClipboard, AllFormsAreOfferedAtOnce) {
-  const auto format = clipboard().Register(u"Dorvalin Conformance Format");
-  platform::DataContent content;
-  content.text = u"Größe\r\n5 €";
-  content.richText = "{\\rtf1 Gr\\'f6\\'dfe}";
-  content.files = {u"C:\\Dorvalin Conformance\\ä.txt", u"C:\\"};
-  content.registered[format] = std::string("\0\1\2", 3);
-  content.picture.emplace(platform::Size{3, 2});
-  content.picture->At({2, 1}) = 0x112233;
-  ASSERT_EQ(clipboard().Put(content), platform::ClipboardResult::Done);
-  EXPECT_TRUE(clipboard().OffersText() && clipboard().OffersRichText());
-  EXPECT_TRUE(clipboard().OffersFiles() && clipboard().OffersPicture());
-  EXPECT_TRUE(clipboard().Offers(format));
-  EXPECT_EQ(clipboard().Text(), content.text);
-  EXPECT_EQ(clipboard().RichText(), content.richText);
-  EXPECT_EQ(clipboard().Files(), content.files);
-  EXPECT_EQ(clipboard().Registered(format), content.registered[format]);
-  const auto picture = clipboard().Picture();
-  ASSERT_TRUE(picture);
-  EXPECT_EQ(picture->Size(), (platform::Size{3, 2}));
-  EXPECT_EQ(picture->At({2, 1}) & 0xFFFFFF, 0x112233u);
-}
-
-TEST_F(OnClipboard, ClearingLeavesNothing) {
-  platform::DataContent content;
-  content.text = u"x";
-  ASSERT_EQ(clipboard().Put(content), platform::ClipboardResult::Done);
-  EXPECT_FALSE(clipboard().OffersRichText());
-  EXPECT_FALSE(clipboard().RichText());
-  ASSERT_EQ(clipboard().Clear(), platform::ClipboardResult::Done);
-  EXPECT_FALSE(clipboard().OffersText());
-  EXPECT_FALSE(clipboard().Text());
-  EXPECT_TRUE(clipboard().Files().empty());
-}
-
-TEST_F(OnClipboard, ANameHasOneNumber) {
-  const auto format = clipboard().Register(u"Dorvalin Conformance Format");
-  EXPECT_NE(format, 0u);
-  EXPECT_EQ(clipboard().Register(u"DORVALIN conformance format"), format);
-  EXPECT_NE(clipboard().Register(u"Dorvalin Conformance Format 2"), format);
-  EXPECT_EQ(clipboard().Register(u""), 0u);
 }
 
 }  // namespace

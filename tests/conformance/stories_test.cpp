@@ -1,12 +1,11 @@
 // What the program's main roads rest on: activation that comes and goes, pumps within handlers,
-// keys, clipboard and drags into other programs.
+// keys, and the clipboard.
 #include "platform/keystrokes.h"
 #include "tests/conformance/Conformance.h"
 
 namespace conformance {
 namespace {
 
-using platform::DropEffect;
 namespace key = platform::key;
 
 class Stories : public Conformance {
@@ -231,91 +230,6 @@ TEST_F(Stories, ATargetThatPastesGetsAnAnswerFromTheClipboardsOwner) {
   EXPECT_TRUE(Type(u"^v^vab"));
   EXPECT_LT(desktop().clock().TickCount() - start, 4000u);
   EXPECT_TRUE(OtherHolds(*other, u"eineinab"));
-}
-
-/// A pane of ours that a drag starts from as soon as the pointer moves with the button held.
-class DragSource {
- public:
-  DragSource(TopWindow& window, Listener& listener, platform::DataContent content)
-      : content_(std::move(content)) {
-    listener.onMouseMove = [this, &window, &listener] {
-      if (!listener.lastMouse.left || done) return;
-      done = true;
-      effect = window.Drag(content_, DropEffect::Copy, nullptr);
-      ended = true;
-    };
-  }
-  bool done = false;
-  bool ended = false;
-  DropEffect effect = DropEffect::None;
-
- private:
-  platform::DataContent content_;
-};
-
-TEST_F(Stories, ARegisteredFormatIsDraggedBetweenTwoOfOurWindows) {
-  const auto format = desktop().clipboard().Register(u"Dorvalin Conformance Format");
-  ASSERT_NE(format, 0u);
-  Listener from, to;
-  const auto source = NewWindow(from, kOurs);
-  const auto target = NewWindow(to, {300, 60, 400, 220});
-  std::optional<std::string> dropped;
-  to.dropEffect = DropEffect::Copy;
-  to.onDrop = [&](const platform::DragEvent& event) {
-    dropped = event.data->Registered(format);
-    return DropEffect::Copy;
-  };
-  target->SetAcceptsDrops(true);
-  source->Show(ShowMode::Activate);
-  target->Show(ShowMode::NoActivate);
-  platform::DataContent content;
-  content.registered[format] = std::string("\x01\x00\xFF", 3);
-  DragSource drag(*source, from, std::move(content));
-  Settle();
-  PlanDrag(kOurs.Middle(), {350, 140});
-  ASSERT_TRUE(Until([&] { return drag.ended; }));
-  EXPECT_EQ(drag.effect, DropEffect::Copy);
-  ASSERT_TRUE(dropped);
-  EXPECT_EQ(*dropped, std::string("\x01\x00\xFF", 3));
-  ASSERT_GE(to.log.size(), 2u);
-  EXPECT_EQ(to.Count("enter"), 1);
-  EXPECT_EQ(to.Count("leave"), 0);
-  EXPECT_EQ(to.log.back(), "drop");
-  EXPECT_EQ(from.Count("left up"), 0) << "the drag takes the release";
-}
-
-TEST_F(Stories, ADragThatIsTakenNowhereLeavesAgain) {
-  Listener from, to;
-  const auto source = NewWindow(from, kOurs);
-  const auto target = NewWindow(to, {300, 60, 400, 220});
-  to.dropEffect = DropEffect::None;
-  target->SetAcceptsDrops(true);
-  source->Show(ShowMode::Activate);
-  target->Show(ShowMode::NoActivate);
-  platform::DataContent content;
-  content.text = u"x";
-  DragSource drag(*source, from, std::move(content));
-  Settle();
-  PlanDrag(kOurs.Middle(), {350, 140});
-  ASSERT_TRUE(Until([&] { return drag.ended; }));
-  EXPECT_EQ(drag.effect, DropEffect::None);
-  EXPECT_EQ(to.Count("drop"), 0);
-  EXPECT_EQ(to.Count("leave"), 1);
-}
-
-TEST_F(Stories, TextIsDraggedOutIntoAnotherProgram) {
-  const auto other = StartOther();
-  Listener from;
-  const auto source = NewWindow(from, kOurs);
-  source->Show(ShowMode::NoActivate);
-  platform::DataContent content;
-  content.text = u"Größe";
-  DragSource drag(*source, from, std::move(content));
-  Settle();
-  PlanDrag(kOurs.Middle(), other->Area().Middle());
-  ASSERT_TRUE(Until([&] { return drag.ended; }));
-  EXPECT_EQ(drag.effect, DropEffect::Copy);
-  EXPECT_TRUE(OtherHolds(*other, u"Größe"));
 }
 
 TEST_F(Stories, TheScreenShowsOthersAndNotOurWindowThatStandsAside) {

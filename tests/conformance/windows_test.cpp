@@ -272,6 +272,76 @@ TEST_F(Windows, TopMostWindowsAndOwnedOnesStandInFront) {
   EXPECT_EQ(at(middle), owned.get());
 }
 
+// A free panel that came back after a delivery covered what the user had put in front meanwhile.
+TEST_F(Windows, ShownAgainWithoutActivationOneStaysBehindWhatCameInFront) {
+  Listener listener;
+  for (const bool topMost : {false, true}) {
+    SCOPED_TRACE(topMost ? "top-most" : "ordinary");
+    const auto free = NewWindow(listener, kOurs);
+    const auto other = NewWindow(listener, kOurs);
+    free->SetTopMost(topMost);
+    other->SetTopMost(topMost);
+    const auto inFront = [&] {
+      Settle();
+      return desktop().windows().WindowAt(kOurs.Middle());
+    };
+    other->Show(ShowMode::NoActivate);
+    free->Show(ShowMode::Activate);
+    EXPECT_EQ(inFront(), free.get());
+    free->Hide();
+    other->Show(ShowMode::Activate);
+    free->Show(ShowMode::NoActivate);
+    EXPECT_EQ(inFront(), other.get());
+    EXPECT_TRUE(HasForeground(*other));
+    EXPECT_EQ(free->Bounds(), kOurs);
+    free->SetTopMost(topMost);
+    EXPECT_EQ(inFront(), topMost ? free.get() : other.get())
+        << "only the top-most band has a new top by that";
+  }
+}
+
+TEST_F(Windows, OneMovesWithThePointerAsByItsTitleBar) {
+  Listener listener;
+  const auto dialog = desktop().windows().NewTopWindow(
+      {.frame = platform::FrameStyle::Dialog, .caption = u"Dialog"}, listener);
+  const auto plain = NewWindow(listener, kOurs);
+  dialog->SetBounds(kOurs.Moved({300, 0}));
+  dialog->Show(ShowMode::Activate);
+  plain->Show(ShowMode::Activate);
+  int moves = 0;
+  listener.onMouseDown = [&] {
+    plain->ReleaseCapture();
+    plain->StartMove();
+    ++moves;
+  };
+  const Point way{40, 90};
+  PlanDrag(kOurs.Middle(), kOurs.Middle() + way);
+  ASSERT_TRUE(Until([&] { return moves == 1; }));
+  EXPECT_EQ(plain->Bounds(), kOurs.Moved(way + Point{1, 1}));
+  const Rect before = dialog->Bounds();
+  const Point title = before.Origin() + Point{60, 12};
+  PlanDrag(title, title + way);
+  EXPECT_TRUE(Until([&] { return dialog->Bounds() == before.Moved(way + Point{1, 1}); }));
+  Settle();
+  EXPECT_FALSE(desktop().input().ButtonDown(Button::Left));
+}
+
+TEST_F(Windows, TheUsersWishToCloseIsAskedAndNoMore) {
+  Listener listener;
+  const auto window = desktop().windows().NewTopWindow(
+      {.frame = platform::FrameStyle::Dialog, .caption = u"Dialog"}, listener);
+  window->SetBounds(kOurs);
+  window->Show(ShowMode::Activate);
+  ASSERT_TRUE(HasForeground(*window));
+  Click({kOurs.right - 12, kOurs.top + 12});
+  EXPECT_EQ(listener.Count("close"), 1) << "the close box";
+  under().KeyDown(key::kAlt);
+  PressKey(key::kF4);
+  under().KeyUp(key::kAlt);
+  EXPECT_TRUE(Until([&] { return listener.Count("close") == 2; })) << "Alt+F4";
+  EXPECT_TRUE(window->Visible());
+}
+
 TEST_F(Windows, ClosedWindowsAreHusks) {
   Listener listener, inside;
   const auto window = NewWindow(listener, kOurs);

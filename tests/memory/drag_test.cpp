@@ -1,5 +1,4 @@
-// Drags between our panes and other programs, moves by the title bar, and a clipboard that another
-// program holds.
+// Drags of other programs and of ours over panes that come and go.
 #include "tests/support/DesktopTest.h"
 
 namespace dorvalin {
@@ -30,14 +29,6 @@ class Target : public platform::TopWindowEvents {
   }
 };
 
-class Feedback : public platform::DragFeedback {
- public:
-  std::optional<platform::Pointer> PointerFor(DropEffect effect) override {
-    if (effect == DropEffect::None) return {{platform::StandardPointer::NoDrop, {}}};
-    return std::nullopt;
-  }
-};
-
 class Drags : public DesktopTest {
  protected:
   Drags() {
@@ -46,7 +37,7 @@ class Drags : public DesktopTest {
       dragged = true;
       platform::DataContent content;
       content.text = u"Größe";
-      effect = window->Drag(content, DropEffect::Copy, &feedback);
+      effect = window->Drag(content, DropEffect::Copy, nullptr);
     };
     window = NewWindow({0, 0, 90, 90}, source);
     window->Show(ShowMode::Activate);
@@ -66,7 +57,6 @@ class Drags : public DesktopTest {
   };
 
   platform::ForeignTextEditor editor{desktop};
-  Feedback feedback;
   bool dragged = false;
   DropEffect effect = DropEffect::None;
   Source source;  // before the window that tells it things
@@ -87,31 +77,6 @@ TEST_F(Drags, EnterAndLeaveEachPaneOnTheirWay) {
   EXPECT_EQ(right.text, u"Größe");
   EXPECT_EQ(outer.log, "") << "it takes none itself";
   EXPECT_EQ(effect, DropEffect::Copy);
-}
-
-TEST_F(Drags, EscapeEndsThemWithoutADrop) {
-  Target target;
-  const auto top = NewWindow({0, 100, 90, 300}, target);
-  top->SetAcceptsDrops(true);
-  top->Show(ShowMode::NoActivate);
-  user.Later(75ms, [&] { user.Key(platform::key::kEscape); });
-  user.Drag({40, 40}, {40, 280});
-  EXPECT_EQ(target.log, "eol");
-  EXPECT_EQ(effect, DropEffect::None);
-}
-
-TEST_F(Drags, TheSourceChoosesThePointer) {
-  Target target;
-  target.answer = DropEffect::None;
-  const auto top = NewWindow({0, 100, 90, 300}, target);
-  top->SetAcceptsDrops(true);
-  top->Show(ShowMode::NoActivate);
-  user.Drag({40, 40}, {40, 280});
-  ASSERT_FALSE(desktop.drags().PointersShown().empty());
-  const auto last = desktop.drags().PointersShown().back();
-  ASSERT_TRUE(last);
-  EXPECT_EQ(last->standard, platform::StandardPointer::NoDrop);
-  EXPECT_EQ(target.log.back(), 'l') << "a target that takes nothing is left";
 }
 
 TEST_F(Drags, ABusyProgramTakesNothing) {
@@ -153,28 +118,6 @@ TEST_F(Drags, ATargetThatClosesMeanwhileIsForgotten) {
   user.Drag({40, 40}, {40, 280});
   EXPECT_EQ(target.log, "e");
   EXPECT_EQ(effect, DropEffect::None);
-}
-
-TEST_F(Drags, TheTitleBarMovesAWindow) {
-  platform::TopWindowEvents nothing;
-  const auto dialog =
-      desktop.windows().NewTopWindow({.frame = platform::FrameStyle::Dialog}, nothing);
-  dialog->SetBounds({200, 200, 400, 300});
-  dialog->Show(ShowMode::Activate);
-  user.Drag({250, 210}, {350, 260});
-  EXPECT_EQ(dialog->Bounds(), (Rect{300, 250, 500, 350}));
-}
-
-TEST_F(Drags, AClipboardHeldByAnotherProgramIsLeftAlone) {
-  platform::DataContent content;
-  content.text = u"alt";
-  ASSERT_EQ(desktop.clipboard().Put(content), platform::ClipboardResult::Done);
-  desktop.clipboard().HoldByOther(true);
-  content.text = u"neu";
-  EXPECT_EQ(desktop.clipboard().Put(content), platform::ClipboardResult::Busy);
-  EXPECT_FALSE(desktop.clipboard().OffersText());
-  desktop.clipboard().HoldByOther(false);
-  EXPECT_EQ(desktop.clipboard().Text(), u"alt");
 }
 
 }  // namespace

@@ -50,6 +50,17 @@ class MemoryUnderTest final : public DesktopUnderTest {
   bool HourglassShown() override {
     return desktop_.input().ShownPointer().standard == platform::StandardPointer::Hourglass;
   }
+  platform::Menu MenuSeen() override {
+    platform::Menu seen;
+    for (platform::MenuEntry entry : desktop_.menus().Shown().back().entries) {
+      if (!entry.visible) continue;
+      entry.caption.clear();
+      seen.push_back(entry);
+    }
+    return seen;
+  }
+  void OnIcon(platform::TaskBarEvent event) override { desktop_.taskBar().Happens(event); }
+  void HoldClipboard(bool held) override { desktop_.clipboard().HoldByOther(held); }
   void Pump(std::chrono::milliseconds time) override {
     desktop_.pump().RunFor(time, [] {});
   }

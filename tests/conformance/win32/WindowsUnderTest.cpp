@@ -6,6 +6,7 @@
 #include <fstream>
 #include <iterator>
 #include <mutex>
+#include <optional>
 #include <thread>
 
 #include "platform/pump.h"
@@ -139,14 +140,19 @@ class TargetProgram final : public OtherProgram {
   PROCESS_INFORMATION process_{};
 };
 
+HWND StandingMenu() {
+  const HWND menu = ::FindWindowW(L"#32768", nullptr);
+  return ::IsWindowVisible(menu) ? menu : nullptr;
+}
+
 /// Keys that come before the menu is open would go to the window behind it.
-void WaitForMenu() {
+HWND WaitForMenu() {
   const auto end = Clock::now() + std::chrono::seconds(10);
-  while (Clock::now() < end) {
-    const HWND menu = ::FindWindowW(L"#32768", nullptr);
-    if (menu && ::IsWindowVisible(menu)) return;
+  HWND menu = nullptr;
+  while (!(menu = StandingMenu()) && Clock::now() < end) {
     std::this_thread::sleep_for(milliseconds(10));
   }
+  return menu;
 }
 
 BOOL CALLBACK AddShownTip(HWND window, LPARAM text) {
@@ -161,6 +167,50 @@ BOOL CALLBACK AddShownTip(HWND window, LPARAM text) {
   *reinterpret_cast<std::u16string*>(text) += platform::Text(shown);
   return TRUE;
 }
+
+platform::Menu EntriesOf(HWND window) {
+  constexpr UINT kGetMenu = 0x01E1;
+  const auto menu = reinterpret_cast<HMENU>(::SendMessageW(window, kGetMenu, 0, 0));
+  platform::Menu entries;
+  for (int n = 0; n < ::GetMenuItemCount(menu); ++n) {
+    MENUITEMINFOW item{};
+    item.cbSize = sizeof(item);
+    item.fMask = MIIM_ID | MIIM_STATE | MIIM_FTYPE;
+    ::GetMenuItemInfoW(menu, static_cast<UINT>(n), TRUE, &item);
+    // A separator counts as disabled.
+    const bool separator = (item.fType & MFT_SEPARATOR) != 0;
+    entries.push_back({.id = separator ? 0 : static_cast<int>(item.wID),
+                       .caption = {},
+                       .enabled = separator || !(item.fState & MFS_DISABLED),
+                       .checked = (item.fState & MFS_CHECKED) != 0,
+                       .isDefault = (item.fState & MFS_DEFAULT) != 0});
+  }
+  return entries;
+}
+
+/// Has the clipboard open while it lives; the system wants one thread for both ends.
+class ClipboardHolder {
+ public:
+  ClipboardHolder() {
+    while (!holds_) std::this_thread::sleep_for(milliseconds(1));
+  }
+  ~ClipboardHolder() {
+    ending_ = true;
+    thread_.join();
+  }
+
+ private:
+  void Run() {
+    const bool opened = ::OpenClipboard(nullptr);
+    holds_ = true;
+    while (!ending_) std::this_thread::sleep_for(milliseconds(1));
+    if (opened) ::CloseClipboard();
+  }
+
+  std::atomic<bool> holds_ = false;
+  std::atomic<bool> ending_ = false;
+  std::thread thread_{[this] { Run(); }};
+};
 
 class WindowsUnderTest final : public DesktopUnderTest {
  public:
@@ -193,13 +243,11 @@ class WindowsUnderTest final : public DesktopUnderTest {
   }
   void ChooseInMenu(int place) override {
     planner_.Add(milliseconds(100), [this, place] {
-      WaitForMenu();
-      for (int n = 0; n <= place; ++n) {
-        std::this_thread::sleep_for(milliseconds(50));
-        const int key = n < place ? VK_DOWN : VK_RETURN;
-        KeyDown(key);
-        KeyUp(key);
-      }
+      menuSeen_ = EntriesOf(WaitForMenu());
+      for (int n = 0; n < place; ++n) Stroke(VK_DOWN);
+      if (place > 0) Stroke(VK_RETURN);
+      std::this_thread::sleep_for(milliseconds(100));
+      if (StandingMenu()) Stroke(VK_ESCAPE);
     });
   }
   std::u16string ToolTipShown() override {
@@ -212,6 +260,21 @@ class WindowsUnderTest final : public DesktopUnderTest {
     shown.cbSize = sizeof(shown);
     return ::GetCursorInfo(&shown) && shown.hCursor == ::LoadCursor(nullptr, IDC_WAIT);
   }
+  platform::Menu MenuSeen() override { return menuSeen_; }
+  void OnIcon(platform::TaskBarEvent event) override {
+    const UINT message = event == platform::TaskBarEvent::LeftUp            ? WM_LBUTTONUP
+                         : event == platform::TaskBarEvent::LeftDoubleClick ? WM_LBUTTONDBLCLK
+                                                                            : WM_RBUTTONUP;
+    ::SendNotifyMessageW(::FindWindowW(platform::kTaskBarIconClass, nullptr),
+                         platform::kTaskBarIconMessage, 0, message);
+  }
+  void HoldClipboard(bool held) override {
+    if (held) {
+      holder_.emplace();
+    } else {
+      holder_.reset();
+    }
+  }
   void Pump(milliseconds time) override {
     const auto end = Clock::now() + time;
     do {
@@ -221,8 +284,16 @@ class WindowsUnderTest final : public DesktopUnderTest {
   }
 
  private:
+  void Stroke(int virtualKey) {
+    std::this_thread::sleep_for(milliseconds(50));
+    KeyDown(virtualKey);
+    KeyUp(virtualKey);
+  }
+
   platform::WindowsDesktop desktop_;
   std::atomic<Point> hand_ = kAside;
+  platform::Menu menuSeen_;
+  std::optional<ClipboardHolder> holder_;
   Planner planner_;
 };
 
