@@ -28,7 +28,7 @@ std::optional<Rect> EdgeArea(int rightBarArea, platform::Size screen) {
 }
 
 // The target keeps the focus, also when the edge is clicked.
-frmRight::frmRight() : Form("frmRight", {.activatable = false}) {}
+frmRight::frmRight() : Form("frmRight", {.activatable = false, .unseen = true}) {}
 
 frmRight* frmRight::Instance() { return StateOf<LoadedEdge>().form; }
 

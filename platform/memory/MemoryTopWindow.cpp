@@ -28,6 +28,7 @@ MemoryTopWindow::MemoryTopWindow(MemoryDesktop& desktop, const TopWindowOptions&
       caption_(options.caption),
       owner_(static_cast<MemoryTopWindow*>(options.owner)),
       activatable_(options.activatable),
+      unseen_(options.unseen),
       focus_(this) {
   SetTop(*this);
   SetVisibleFlag(false);
@@ -112,6 +113,7 @@ bool MemoryTopWindow::Covers(Point screen) const {
 }
 
 void MemoryTopWindow::Paint(Surface& screen) {
+  if (unseen_) return;
   const Surface behind = ellipse_ ? screen.Clone() : Surface();
   const bool active = Desktop().stack().Active() == this;
   if (Framed()) WindowFrame(Place()).Paint(screen, caption_, active);

@@ -61,6 +61,7 @@ class MemoryTopWindow final : public PaneOf<TopWindow>, public DesktopWindow {
   std::u16string caption_;
   MemoryTopWindow* owner_;
   bool activatable_;
+  bool unseen_;
   bool topMost_ = false;
   std::optional<Rect> ellipse_;
   MemoryNode* focus_ = nullptr;       ///< who has the keyboard when this window is active

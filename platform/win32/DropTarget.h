@@ -1,14 +1,14 @@
-// Drags over a pane.
+// Drags over the panes of a top-level window.
 #pragma once
-
-#include <wrl/client.h>
 
 #include "platform/win32/handles.h"
 #include "platform/window.h"
 
 namespace platform {
 
-/// A window's place in the system's list of drop targets, left at the end of its life.
+/// A top-level window's place in the system's list of drop targets, left at the end of its life.
+/// Only it is there, for all its panes: to enter and to leave the list costs more than to make a
+/// window, and a panel has dozens. Which pane a drag is over is found at each move.
 class DropRegistration {
  public:
   DropRegistration() = default;
@@ -16,11 +16,12 @@ class DropRegistration {
   DropRegistration(const DropRegistration&) = delete;
   DropRegistration& operator=(const DropRegistration&) = delete;
 
-  void Register(HWND window, PaneEvents& events);
+  /// Nothing for one that is registered.
+  void Register(HWND root);
   void Revoke();
 
  private:
-  HWND window_ = nullptr;
+  HWND root_ = nullptr;
 };
 
 }  // namespace platform

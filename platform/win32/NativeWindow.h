@@ -30,6 +30,7 @@ struct WindowMaking {
   std::u16string caption{};
 };
 
+class DropRegistration;
 class ToolTips;
 
 class NativeWindow {
@@ -69,6 +70,10 @@ class NativeWindow {
   /// Tells this window and its children whether they are seen, where that changed.
   void UpdateSeen();
   virtual ToolTips* Tips() { return nullptr; }
+  /// Of a root: its place in the list of drop targets.
+  virtual DropRegistration* Drops() { return nullptr; }
+  /// Who takes what is dropped here; null for nobody.
+  virtual PaneEvents* DropEvents() { return nullptr; }
 
  protected:
   /// Makes a window of one of the program's own classes. False: there is none.

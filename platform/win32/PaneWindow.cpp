@@ -3,6 +3,7 @@
 #include "platform/raster.h"
 #include "platform/win32/DibMemory.h"
 #include "platform/win32/DragSource.h"
+#include "platform/win32/DropTarget.h"
 #include "platform/win32/MouseMessages.h"
 #include "platform/win32/Pointers.h"
 #include "platform/win32/wide.h"
@@ -74,11 +75,9 @@ DropEffect PaneWindow::Drag(const DataContent& data, DropEffect allowed, DragFee
 }
 
 void PaneWindow::SetAcceptsDrops(bool accepts) {
-  if (accepts && Handle()) {
-    drops_.Register(Handle(), events_);
-  } else {
-    drops_.Revoke();
-  }
+  acceptsDrops_ = accepts;
+  NativeWindow* root = accepts && Handle() ? RootOf(Handle()) : nullptr;
+  if (root && root->Drops()) root->Drops()->Register(root->Handle());
 }
 
 std::optional<LRESULT> PaneWindow::Receive(const WindowMessage& message) {
@@ -101,9 +100,6 @@ std::optional<LRESULT> PaneWindow::Receive(const WindowMessage& message) {
     case WM_KILLFOCUS:
       events_.OnFocus(false);
       return 0;
-    case WM_DESTROY:
-      drops_.Revoke();
-      return std::nullopt;
     default:
       break;
   }

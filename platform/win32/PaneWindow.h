@@ -2,7 +2,6 @@
 #pragma once
 
 #include "platform/wheel.h"
-#include "platform/win32/DropTarget.h"
 #include "platform/win32/NativeWindow.h"
 #include "platform/win32/WindowOf.h"
 
@@ -18,6 +17,7 @@ class PaneWindow : public NativeWindow {
   void ReleaseCapture();
   DropEffect Drag(const DataContent& data, DropEffect allowed, DragFeedback* feedback);
   void SetAcceptsDrops(bool accepts);
+  PaneEvents* DropEvents() override { return acceptsDrops_ ? &events_ : nullptr; }
 
   std::optional<LRESULT> Receive(const WindowMessage& message) override;
   /// Draws the part of the canvas that lies under a child into the child's device context.
@@ -54,7 +54,7 @@ class PaneWindow : public NativeWindow {
   };
   std::optional<Pressed> lastPress_;  // the last that was told as one
   WheelNotches wheel_;
-  DropRegistration drops_;
+  bool acceptsDrops_ = false;
 };
 
 /// Gives a port the operations of a pane.

@@ -26,10 +26,12 @@ Frame FrameOf(const TopWindowOptions& options) {
     frame.extended |= WS_EX_TOOLWINDOW;
   }
   if (!options.activatable) frame.extended |= WS_EX_NOACTIVATE;
+  if (options.unseen) frame.extended |= WS_EX_LAYERED;
   return frame;
 }
 
 constexpr UINT kPassActivationOn = WM_APP + 1;
+constexpr BYTE kHardlyThere = 1;  // of 255; at 0 the pointer would not meet the window
 
 bool HasExtendedStyle(HWND window, DWORD style) {
   return (::GetWindowLongPtrW(window, GWL_EXSTYLE) & style) != 0;
@@ -65,8 +67,10 @@ bool Win32TopWindow::Make(const TopWindowOptions& options) {
                                       .extendedStyle = frame.extended,
                                       .parent = OwnerOf(options),
                                       .caption = options.caption});
-  if (made) tips_.emplace(Handle());
-  return made;
+  if (!made) return false;
+  tips_.emplace(Handle());
+  if (options.unseen) ::SetLayeredWindowAttributes(Handle(), 0, kHardlyThere, LWA_ALPHA);
+  return true;
 }
 
 void Win32TopWindow::SetVisible(bool visible) {
@@ -155,6 +159,9 @@ std::optional<LRESULT> Win32TopWindow::Receive(const WindowMessage& message) {
     case kPassActivationOn:
       PassActivationOn();
       return 0;
+    case WM_DESTROY:
+      drops_.Revoke();
+      return std::nullopt;
     case WM_CLOSE:
       topEvents_.OnCloseRequest();
       return 0;

@@ -1,6 +1,7 @@
 // A window on the desktop.
 #pragma once
 
+#include "platform/win32/DropTarget.h"
 #include "platform/win32/PaneWindow.h"
 #include "platform/win32/ToolTips.h"
 
@@ -25,6 +26,7 @@ class Win32TopWindow final : public PaneOf<TopWindow> {
 
   std::optional<LRESULT> Receive(const WindowMessage& message) override;
   ToolTips* Tips() override { return tips_ ? &*tips_ : nullptr; }
+  DropRegistration* Drops() override { return &drops_; }
   /// A key for this window or a child, before anyone else. True: it goes no further.
   bool PreviewKey(const MSG& message);
 
@@ -38,6 +40,7 @@ class Win32TopWindow final : public PaneOf<TopWindow> {
 
   TopWindowEvents& topEvents_;
   std::optional<ToolTips> tips_;
+  DropRegistration drops_;
   OwnedIcon icon_;
   HWND lastFocus_ = nullptr;  // the child that had the keyboard when the activation went
 };
