@@ -1,5 +1,8 @@
 #include "platform/win32/NativeWindow.h"
 
+#include <unordered_map>
+#include <vector>
+
 #include "platform/win32/Pointers.h"
 #include "platform/win32/ToolTips.h"
 #include "platform/win32/wide.h"
@@ -7,21 +10,24 @@
 namespace platform {
 namespace {
 
-constexpr const wchar_t* kObjectProperty = L"DorvalinWindow.Object";
-constexpr UINT_PTR kSubclassId = 1;
-
-NativeWindow* ObjectOf(HWND window) {
-  return static_cast<NativeWindow*>(::GetPropW(window, kObjectProperty));
+/// The object of each window. Asked at every message, and for other programs' windows as well: a
+/// property kept by the system would have to be fetched from there each time.
+std::unordered_map<HWND, NativeWindow*>& Objects() {
+  static std::unordered_map<HWND, NativeWindow*> objects;
+  return objects;
 }
 
-bool OfThisProgram(HWND window) {
-  DWORD process = 0;
-  ::GetWindowThreadProcessId(window, &process);
-  return process == ::GetCurrentProcessId();
+BOOL CALLBACK AddWindow(HWND window, LPARAM windows) {
+  reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
+  return TRUE;
 }
 
-HWND FirstChild(HWND window) { return ::GetWindow(window, GW_CHILD); }
-HWND NextSibling(HWND window) { return ::GetWindow(window, GW_HWNDNEXT); }
+/// Those within, outer before inner ones.
+std::vector<HWND> WindowsWithin(HWND window) {
+  std::vector<HWND> windows;
+  ::EnumChildWindows(window, AddWindow, reinterpret_cast<LPARAM>(&windows));
+  return windows;
+}
 
 }  // namespace
 
@@ -35,8 +41,8 @@ NativeWindow::~NativeWindow() {
 }
 
 NativeWindow* NativeWindow::Of(HWND window) {
-  // Another running copy of the program has the same property on its windows.
-  return window && OfThisProgram(window) ? ObjectOf(window) : nullptr;
+  const auto known = Objects().find(window);
+  return known == Objects().end() ? nullptr : known->second;
 }
 
 NativeWindow* NativeWindow::Around(HWND window) {
@@ -102,16 +108,19 @@ void NativeWindow::SetToolTip(std::u16string_view text) {
 }
 
 void NativeWindow::UpdateSeen() {
-  if (!handle_) return;
+  if (!handle_ || !TellSeen()) return;
+  // All at once: to ask the system for one after the other takes longer than all that they do.
+  for (const HWND inner : WindowsWithin(handle_)) {
+    if (NativeWindow* object = Of(inner)) object->TellSeen();
+  }
+}
+
+bool NativeWindow::TellSeen() {
   const bool seen = ::IsWindowVisible(handle_);
-  if (seen == seen_) return;
+  if (seen == seen_) return false;
   seen_ = seen;
   OnSeen(seen);
-  HWND next = nullptr;
-  for (HWND child = handle_ ? FirstChild(handle_) : nullptr; child; child = next) {
-    next = NextSibling(child);
-    if (NativeWindow* object = Of(child)) object->UpdateSeen();
-  }
+  return handle_ != nullptr;
 }
 
 bool NativeWindow::RegisterClasses() {
@@ -142,8 +151,11 @@ bool NativeWindow::MakeControl(const WindowMaking& making) {
       b.Width(), b.Height(), making.parent, nullptr, ::GetModuleHandleW(nullptr), nullptr);
   if (!window) return false;
   Attach(window);
-  subclassed_ = ::SetWindowSubclass(window, Subclass, kSubclassId, 0) != 0;
-  if (!subclassed_) {
+  // Not by the system's list of subclasses, which it keeps as a property, to be fetched at every
+  // message.
+  former_ = reinterpret_cast<WNDPROC>(
+      ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure)));
+  if (!former_) {
     Detach();
     ::DestroyWindow(window);
     return false;
@@ -158,21 +170,19 @@ void NativeWindow::Destroy() {
 
 void NativeWindow::Attach(HWND window) {
   handle_ = window;
-  ::SetPropW(window, kObjectProperty, static_cast<HANDLE>(this));
+  Objects()[window] = this;
 }
 
 void NativeWindow::Detach() {
   if (!handle_) return;
-  if (subclassed_) ::RemoveWindowSubclass(handle_, Subclass, kSubclassId);
-  ::RemovePropW(handle_, kObjectProperty);
-  subclassed_ = false;
+  if (former_) ::SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(former_));
+  Objects().erase(handle_);
   handle_ = nullptr;
 }
 
 LRESULT NativeWindow::Default(const WindowMessage& m) {
   if (!handle_) return 0;
-  return subclassed_ ? ::DefSubclassProc(handle_, m.id, m.wParam, m.lParam)
-                     : ::DefWindowProcW(handle_, m.id, m.wParam, m.lParam);
+  return ::CallWindowProcW(former_ ? former_ : ::DefWindowProcW, handle_, m.id, m.wParam, m.lParam);
 }
 
 LRESULT NativeWindow::Handle(NativeWindow& target, const WindowMessage& message) noexcept {
@@ -183,10 +193,9 @@ LRESULT NativeWindow::Handle(NativeWindow& target, const WindowMessage& message)
   if (message.id == WM_NCDESTROY) {
     if (ToolTips* tips = target.Tips()) tips->OwnerGone();
     const HWND window = target.handle_;
-    const bool subclassed = target.subclassed_;
     target.Detach();
-    return subclassed ? ::DefSubclassProc(window, message.id, message.wParam, message.lParam)
-                      : ::DefWindowProcW(window, message.id, message.wParam, message.lParam);
+    return ::CallWindowProcW(target.former_ ? target.former_ : ::DefWindowProcW, window, message.id,
+                             message.wParam, message.lParam);
   }
   try {
     if (const auto result = target.Receive(message)) return *result;
@@ -203,16 +212,9 @@ LRESULT CALLBACK NativeWindow::Procedure(HWND window, UINT id, WPARAM wParam,
     const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
     static_cast<NativeWindow*>(creation->lpCreateParams)->Attach(window);
   }
-  NativeWindow* target = ObjectOf(window);
+  NativeWindow* target = Of(window);
   return target ? Handle(*target, {id, wParam, lParam})
                 : ::DefWindowProcW(window, id, wParam, lParam);
-}
-
-LRESULT CALLBACK NativeWindow::Subclass(HWND window, UINT id, WPARAM wParam, LPARAM lParam,
-                                        UINT_PTR, DWORD_PTR) noexcept {
-  NativeWindow* target = ObjectOf(window);
-  return target ? Handle(*target, {id, wParam, lParam})
-                : ::DefSubclassProc(window, id, wParam, lParam);
 }
 
 void BringToForeground(HWND window) {

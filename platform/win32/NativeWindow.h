@@ -88,16 +88,17 @@ class NativeWindow {
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT id, WPARAM wParam, LPARAM lParam) noexcept;
-  static LRESULT CALLBACK Subclass(HWND window, UINT id, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                   DWORD_PTR) noexcept;
   static LRESULT Handle(NativeWindow& target, const WindowMessage& message) noexcept;
   static bool RegisterClasses();
+
+  /// Tells this window alone. False: nothing changed, or it is gone now.
+  bool TellSeen();
 
   void Attach(HWND window);
   void Detach();
 
   HWND handle_ = nullptr;
-  bool subclassed_ = false;
+  WNDPROC former_ = nullptr;  // of one of the system's controls: its own procedure
   bool seen_ = false;
 };
 

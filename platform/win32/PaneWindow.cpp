@@ -46,7 +46,8 @@ bool PaneWindow::Make(const WindowMaking& making) {
 }
 
 void PaneWindow::Refresh() {
-  if (!Handle() || canvas_.Empty()) return;
+  // What is drawn out of sight is asked for when it comes into sight.
+  if (!Handle() || canvas_.Empty() || !::IsWindowVisible(Handle())) return;
   {
     const BorrowedDc dc(Handle());
     CopyCanvas(dc.get(), canvas_, {0, 0});

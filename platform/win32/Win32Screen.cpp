@@ -11,16 +11,26 @@ Rect WholeScreen() {
                   {::GetSystemMetrics(SM_CXVIRTUALSCREEN), ::GetSystemMetrics(SM_CYVIRTUALSCREEN)});
 }
 
+// Every picture that is mixed asks for the depth, and the system is slow to tell.
+std::optional<int> knownDepth;
+
+int AskDepth() {
+  const BorrowedDc screen(nullptr);
+  if (::GetDeviceCaps(screen.get(), RASTERCAPS) & RC_PALETTE) return 0;
+  return ::GetDeviceCaps(screen.get(), BITSPIXEL) * ::GetDeviceCaps(screen.get(), PLANES);
+}
+
 }  // namespace
+
+void ForgetScreenDepth() { knownDepth.reset(); }
 
 platform::Size Win32Screen::Size() {
   return {::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN)};
 }
 
 int Win32Screen::Depth() {
-  const BorrowedDc screen(nullptr);
-  if (::GetDeviceCaps(screen.get(), RASTERCAPS) & RC_PALETTE) return 0;
-  return ::GetDeviceCaps(screen.get(), BITSPIXEL) * ::GetDeviceCaps(screen.get(), PLANES);
+  if (!knownDepth) knownDepth = AskDepth();
+  return *knownDepth;
 }
 
 Colour Win32Screen::SystemColourOf(SystemColour colour) {

@@ -4,6 +4,9 @@
 
 namespace platform {
 
+/// Whenever a window is told of another display mode.
+void ForgetScreenDepth();
+
 class Win32Screen final : public Screen {
  public:
   platform::Size Size() override;

@@ -1,6 +1,7 @@
 #include "platform/win32/Win32TopWindow.h"
 
 #include "platform/win32/IconHandle.h"
+#include "platform/win32/Win32Screen.h"
 #include "platform/win32/wide.h"
 
 namespace platform {
@@ -159,6 +160,9 @@ std::optional<LRESULT> Win32TopWindow::Receive(const WindowMessage& message) {
     case kPassActivationOn:
       PassActivationOn();
       return 0;
+    case WM_DISPLAYCHANGE:
+      ForgetScreenDepth();
+      return std::nullopt;
     case WM_DESTROY:
       drops_.Revoke();
       return std::nullopt;
