@@ -54,7 +54,8 @@ class SharedInput {
 }  // namespace
 
 bool TypingTarget::Take(const KeyBatch& batch) {
-  WaitUntil([] { return OtherForegroundThread() != 0; }, kActivationWait);
+  WaitUntil([this] { return TakesKeys(OtherForegroundThread()); }, kActivationWait);
+  begun_ = true;
   const DWORD thread = OtherForegroundThread();
   const SharedInput shared(mute_ ? 0 : thread);
   // A target still at the end of the batch before would be taken for one that is through with this.
@@ -63,6 +64,14 @@ bool TypingTarget::Take(const KeyBatch& batch) {
   if (sent) AwaitEnd(thread, bool(shared));
   ReleaseMarker();
   return sent;
+}
+
+// A window that has just got the activation may not have passed the keyboard on to its field yet,
+// and would lose the keys. Asked once: some programs have no field that the system knows of.
+bool TypingTarget::TakesKeys(DWORD thread) const {
+  GUITHREADINFO state{};
+  state.cbSize = sizeof(state);
+  return thread && (begun_ || (::GetGUIThreadInfo(thread, &state) && state.hwndFocus));
 }
 
 void TypingTarget::AwaitEnd(DWORD thread, bool shared) {

@@ -12,8 +12,10 @@ class TypingTarget {
   bool Take(const KeyBatch& batch);
 
  private:
+  [[nodiscard]] bool TakesKeys(DWORD thread) const;
   void AwaitEnd(DWORD thread, bool shared);
 
+  bool begun_ = false;
   bool mute_ = false;  // nothing shows that the target takes its keys
 };
 

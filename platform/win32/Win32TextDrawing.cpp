@@ -87,8 +87,7 @@ std::vector<std::u16string> Win32TextDrawing::Faces() {
   ::EnumFontFamiliesExW(measuring_.get(), &all, AddFace, reinterpret_cast<LPARAM>(&faces), 0);
   // Each comes once for every script that it has.
   std::ranges::sort(faces, {}, Lower);
-  const auto repeated = std::ranges::unique(faces);
-  faces.erase(repeated.begin(), repeated.end());
+  faces.erase(std::unique(faces.begin(), faces.end()), faces.end());
   return faces;
 }
 
