@@ -138,9 +138,10 @@ void Forms::RunUntilEmpty() {
 }
 
 void Forms::UnloadAll() {
-  const auto all = All();
-  for (auto form = all.rbegin(); form != all.rend(); ++form) {
-    if (Contains(*form)) (*form)->Unload();
+  auto all = All();
+  std::reverse(all.begin(), all.end());
+  for (Form* form : all) {
+    if (Contains(form)) form->Unload();
   }
 }
 

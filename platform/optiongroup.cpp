@@ -26,7 +26,7 @@ OptionButton* OptionAfterKey(std::vector<OptionButton*> group, OptionButton& mem
     return each != &member && !(each->Visible() && each->Enabled());
   });
   if (back) std::ranges::reverse(group);
-  std::ranges::rotate(group, std::ranges::find(group, &member));
+  std::rotate(group.begin(), std::ranges::find(group, &member), group.end());
   return group.size() < 2 ? &member : group[1];
 }
 
