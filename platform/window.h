@@ -150,8 +150,8 @@ struct TopWindowOptions {
   bool inTaskBar = false;
   /// False: neither a click nor another window's going makes it the active one.
   bool activatable = true;
-  /// True: the pointer meets it, but what it covers shows through, and it has nothing to draw. (Not
-  /// through on a desktop that cannot mix windows.)
+  /// True: the pointer meets it, but what it covers shows through, as far as the desktop can mix
+  /// windows.
   bool unseen = false;
 };
 

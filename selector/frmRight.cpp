@@ -2,6 +2,7 @@
 
 #include "core/ProgramState.h"
 #include "platform/desktop.h"
+#include "platform/drawing.h"
 #include "platform/screen.h"
 #include "selector/frmBG.h"
 
@@ -52,6 +53,10 @@ void frmRight::SetSize() {
   const auto area = EdgeArea(State().settings.RightBarArea, TheDesktop().screen().Size());
   if (!area) return;
   Window().SetBounds(*area);
+  // Where the desktop cannot make it unseen, it looks like the edge of a window.
+  auto& canvas = Window().Canvas();
+  FillRect(canvas, canvas.Area(),
+           TheDesktop().screen().SystemColourOf(platform::SystemColour::ButtonFace));
   Window().SetTopMost(true);
   Show(platform::ShowMode::NoActivate);
 }
