@@ -28,11 +28,12 @@ double Normal(double degrees) {
 }  // namespace
 
 BubblePlaces RingPlaces(int radius, double rotation) {
+  constexpr platform::Point kCentre{kRingSize.width / 2, kRingSize.height / 2};
   BubblePlaces places;
   for (int i = 1; i <= kFunctionCount; ++i) {
     const double angle = (HomeAngle(i) + rotation + 90) / 180 * kPi;
-    places[i - 1] = {Rounded(radius * std::cos(angle) + kRingSize.width / 2),
-                     Rounded(radius * std::sin(angle) + kRingSize.height / 2)};
+    places[i - 1] = {Rounded(radius * std::cos(angle) + kCentre.x),
+                     Rounded(radius * std::sin(angle) + kCentre.y)};
   }
   return places;
 }
