@@ -77,7 +77,7 @@ void Win32TaskBar::RemoveIcon() {
   icon_.reset();
 }
 
-bool Win32TaskBar::Tell(DWORD operation) {
+void Win32TaskBar::Tell(DWORD operation) {
   NOTIFYICONDATAW data{};
   data.cbSize = sizeof(data);
   data.hWnd = window_.get();
@@ -86,7 +86,8 @@ bool Win32TaskBar::Tell(DWORD operation) {
   data.uCallbackMessage = kTaskBarIconMessage;
   data.hIcon = icon_.get();
   std::copy_n(Wide(tip_), std::min(tip_.size(), std::size(data.szTip) - 1), data.szTip);
-  return ::Shell_NotifyIconW(operation, &data) != 0;
+  // A refusal is no failure: a task bar that is not there yet is told when it comes.
+  ::Shell_NotifyIconW(operation, &data);
 }
 
 void Win32TaskBar::Happened(TaskBarEvent event) {

@@ -25,7 +25,7 @@ class Win32TaskBar final : public TaskBar {
   static LRESULT CALLBACK Procedure(HWND window, UINT id, WPARAM wParam, LPARAM lParam) noexcept;
   LRESULT Receive(UINT id, WPARAM wParam, LPARAM lParam);
   void Happened(TaskBarEvent event);
-  bool Tell(DWORD operation);
+  void Tell(DWORD operation);
 
   OwnedWindow window_;
   OwnedIcon icon_;
