@@ -29,11 +29,11 @@ class Stage : public Conformance, public testing::WithParamInterface<Case> {
 
   const std::string& Told() const { return told_; }
   void Forget() { told_.clear(); }
-  std::function<void()> Note(std::string event) {
+  std::function<void()> Note(const std::string& event) {
     return [this, event] { told_ += (told_.empty() ? "" : " ") + event; };
   }
-  std::function<void(Button, const platform::MouseEvent&)> NoteButton(std::string event) {
-    return [note = Note(std::move(event))](Button, const platform::MouseEvent&) { note(); };
+  std::function<void(Button, const platform::MouseEvent&)> NoteButton(const std::string& event) {
+    return [note = Note(event)](Button, const platform::MouseEvent&) { note(); };
   }
   std::function<void(TreeNode)> NoteNode(std::string event) {
     return [note = Note(std::move(event))](TreeNode) { note(); };

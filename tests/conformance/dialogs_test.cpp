@@ -37,7 +37,7 @@ class Dialogs : public Conformance {
   }
   std::optional<platform::FontChoice> Choose(const platform::FontChoice& start, int pressed) {
     Begin({pressed});
-    const auto choice = desktop().dialogs().ChooseFont(start, owner_.get());
+    auto choice = desktop().dialogs().ChooseFont(start, owner_.get());
     inLoop_->SetEnabled(false);
     return choice;
   }

@@ -4,10 +4,7 @@
 namespace dorvalin {
 namespace {
 
-using platform::DragState;
 using platform::DropEffect;
-using platform::Pane;
-using platform::Point;
 using platform::Rect;
 using platform::ShowMode;
 

@@ -29,7 +29,7 @@ using Rows = std::vector<std::string>;
 TEST(Surfaces, AreEmptyAfterAMoveAndWithoutASize) {
   Surface first({3, 2});
   const Surface second = std::move(first);
-  EXPECT_EQ(first.Size(), Size{});  // NOLINT(bugprone-use-after-move): that is what is promised
+  EXPECT_EQ(first.Size(), Size{});  // NOLINT: that is what is promised
   EXPECT_EQ(second.Size(), (Size{3, 2}));
   EXPECT_TRUE(Surface({0, 5}).Empty());
   EXPECT_TRUE(Surface({5, -1}).Empty());

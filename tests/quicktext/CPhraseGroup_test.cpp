@@ -11,7 +11,6 @@
 namespace dorvalin {
 namespace {
 
-using platform::Failure;
 using platform::FileStatus;
 using Texts = std::vector<std::u16string>;
 
