@@ -35,8 +35,8 @@ class Stage : public Conformance, public testing::WithParamInterface<Case> {
   std::function<void(Button, const platform::MouseEvent&)> NoteButton(const std::string& event) {
     return [note = Note(event)](Button, const platform::MouseEvent&) { note(); };
   }
-  std::function<void(TreeNode)> NoteNode(std::string event) {
-    return [note = Note(std::move(event))](TreeNode) { note(); };
+  std::function<void(TreeNode)> NoteNode(const std::string& event) {
+    return [note = Note(event)](TreeNode) { note(); };
   }
   template <class Made>
   Made& Watch(std::unique_ptr<Made> made, const std::string& prefix = "") {
