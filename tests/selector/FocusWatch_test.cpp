@@ -7,7 +7,6 @@
 namespace dorvalin {
 namespace {
 
-using platform::Point;
 using platform::Rect;
 using enum FocusVerdict;
 
