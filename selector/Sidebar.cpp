@@ -73,8 +73,8 @@ int SidebarEdge() {
 void HandOver(frmBG& ring, frmMenu& host, const platform::Surface& behindRing, double rotation) {
   const int active = ring.ActiveBubble;
   frmAni* flight = TheForms().Load(std::make_unique<frmAni>());
-  SpinUntil(HiResTimer() + kHideTime);
   if (flight != nullptr) {
+    SpinUntil(HiResTimer() + kHideTime);
     flight->Init({ring.Window().Bounds(), &behindRing, rotation, active});
   }
   frmBG* column = ColumnForHandOver(active);

@@ -117,6 +117,6 @@ int main(int count, char** arguments) {
   state.settings.DontAnimate = true;
   state.settings.AnimateFctnsNormal = false;
   Measure(std::string_view(arguments[1]) == "wheel", std::atoi(arguments[2]));
-  for (platform::Form* form : platform::TheForms().All()) form->Unload();
+  platform::TheForms().UnloadAll();
   return 0;
 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "platform/singlebyte.h"
+
 namespace platform {
 namespace {
 
@@ -95,7 +97,7 @@ void KeyBatch::Unit(char16_t unit) {
 
 void KeyBatch::Add(const KeyStroke& stroke) {
   ++strokes_;
-  halfCharacter_ = stroke.virtualKey == 0 && IS_HIGH_SURROGATE(stroke.unit);
+  halfCharacter_ = stroke.virtualKey == 0 && IsHighSurrogate(stroke.unit);
   if (stroke.virtualKey == 0) return Unit(stroke.unit);
   const Modifiers& with = stroke.modifiers;
   if (with.control) Key(VK_CONTROL, kDown);
