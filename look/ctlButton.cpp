@@ -119,7 +119,8 @@ void ctlButton::ResetFont() {
 }
 
 void ctlButton::Draw() {
-  if (!pane_ || pane_->Canvas().Empty()) return;
+  // Out of sight it waits: most buttons get several properties before they are seen.
+  if (!pane_ || !pane_->Seen() || pane_->Canvas().Empty()) return;
   DrawFace();
   DrawCaption();
   pane_->Refresh();

@@ -50,14 +50,14 @@ class ctlButton final : private platform::PaneEvents {
   [[nodiscard]] const std::u16string& Caption() const { return caption_; }
   /// A text, "&" before its access key, or a sign of WindowGlyphs.h.
   void SetCaption(std::u16string_view caption);
-  /// What it shows now. Only where it has a window.
+  /// What it shows, once it has been seen. Only where it has a window.
   [[nodiscard]] const platform::Surface& hdc() const { return pane_->Canvas(); }
   void SetVisible(bool visible);
   void SetBounds(const platform::Rect& bounds);
   void SetToolTip(std::u16string_view text);
   void ResetFont();
 
-  /// Repaints it at once.
+  /// Repaints it at once where it is seen.
   void Draw();
   /// Ends a press whose release went elsewhere, to the pop-up menu that the press opened.
   void Release();
@@ -77,6 +77,7 @@ class ctlButton final : private platform::PaneEvents {
   void OnKeyUp(platform::KeyEvent& event) override;
   void OnFocus(bool gained) override;
   void OnResize() override { Draw(); }
+  void OnVisible(bool /*visible*/) override { Draw(); }
   platform::DropEffect OnDrag(const platform::DragEvent& event) override;
 
   void Enter();

@@ -37,6 +37,8 @@ class Window {
   [[nodiscard]] virtual bool Visible() const = 0;
   /// For a child; a TopWindow is shown by Show and Hide.
   virtual void SetVisible(bool visible) = 0;
+  /// Whether it and all around it are visible.
+  [[nodiscard]] virtual bool Seen() const = 0;
   [[nodiscard]] virtual bool Enabled() const = 0;
   virtual void SetEnabled(bool enabled) = 0;
   /// Gives it the keyboard, activating its TopWindow. Nothing happens while it is not seen or
@@ -148,6 +150,7 @@ struct TopWindowOptions {
   std::u16string caption{};
   class TopWindow* owner = nullptr;  ///< stays behind this window; may be none
   bool inTaskBar = false;
+  bool topMost = false;  ///< made in the top-most band
   /// False: neither a click nor another window's going makes it the active one.
   bool activatable = true;
   /// True: the pointer meets it, but what it covers shows through, as far as the desktop can mix

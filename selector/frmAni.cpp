@@ -30,7 +30,7 @@ Rect Around(const Rect& a, const Rect& b) {
 
 }  // namespace
 
-frmAni::frmAni() : Form("frmAni", {}) {}
+frmAni::frmAni() : Form("frmAni", {.topMost = true}) {}
 
 void frmAni::Init(const Start& start) {
   ring_ = start.ring;
@@ -45,7 +45,6 @@ void frmAni::Init(const Start& start) {
   BitBlt(background_, ring_.Moved({-area.left, -area.top}), *start.behindRing, {0, 0},
          platform::RasterOp::SrcCopy);
   Window().SetBounds(area);
-  Window().SetTopMost(true);
   Draw(PlacesAt(0));
   Show(platform::ShowMode::NoActivate);
 }

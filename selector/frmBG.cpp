@@ -64,7 +64,7 @@ void OpenPointerWheel() {
   if (wheel != nullptr) static_cast<void>(wheel->Init(frmBG::Reuse::No));
 }
 
-frmBG::frmBG(bool vertical) : FunctionWheel("frmBG", {}), Vertical(vertical) {}
+frmBG::frmBG(bool vertical) : FunctionWheel("frmBG", {.topMost = true}), Vertical(vertical) {}
 
 void frmBG::OnLoad() {
   (Vertical ? Floors().SideWheel : Floors().PointerWheel) = this;
@@ -96,7 +96,6 @@ bool frmBG::Init(Reuse reuse) {
   watch_.ArmedFocus = false;
   InitBG(reuse);
   if (!Loaded()) return false;
-  Window().SetTopMost(true);
   const int last = LastFunction();
   const bool animate = Set().AnimateAtStart && !Set().DontAnimate;
   if (Vertical && reuse == Reuse::No) {

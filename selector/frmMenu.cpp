@@ -47,7 +47,7 @@ bool OpenInBrowser(std::u16string_view address) {
 
 }  // namespace
 
-frmMenu::frmMenu() : PanelHost("frmMenu", {}) {}
+frmMenu::frmMenu() : PanelHost("frmMenu", {.topMost = true}) {}
 
 void frmMenu::OnLoad() { MakeControls(); }
 
@@ -114,7 +114,7 @@ void frmMenu::Init(int index, bool below, Reuse reuse) {
   }
   Window().SetBounds(Rect::At(place, size));
   LayOut();
-  InFG();
+  if (reuse == Reuse::Yes) InFG();
 }
 
 void frmMenu::OnResize() {

@@ -28,8 +28,10 @@ constexpr Size kButton{86, 26};
 }  // namespace
 
 frmRightBarMsg::frmRightBarMsg()
-    : Form("frmRightBarMsg",
-           {.frame = platform::FrameStyle::Dialog, .caption = std::u16string(kProductName)}) {}
+    : Form("frmRightBarMsg", {.frame = platform::FrameStyle::Dialog,
+                              .caption = std::u16string(kProductName),
+                              // It asks at the end, when free hosts may stand in its place.
+                              .topMost = true}) {}
 
 void frmRightBarMsg::OnLoad() {
   auto& desktop = TheDesktop();
@@ -57,8 +59,6 @@ void frmRightBarMsg::OnLoad() {
       Window(), Rect::At({right - kButton.width - 8, buttonTop}, kButton), u"Ja");
   btnCancel_ =
       std::make_unique<ctlButton>(Window(), Rect::At({right, buttonTop}, kButton), u"Nein");
-  // It asks at the end, when free hosts may stand in its place.
-  Window().SetTopMost(true);
   btnOK_->Click = [this] { AnswerWith(true); };
   btnCancel_->Click = [this] { AnswerWith(false); };
   AddTabStop(chkDSA_.get());

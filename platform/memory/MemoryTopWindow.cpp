@@ -27,6 +27,7 @@ MemoryTopWindow::MemoryTopWindow(MemoryDesktop& desktop, const TopWindowOptions&
       frame_(options.frame),
       caption_(options.caption),
       owner_(static_cast<MemoryTopWindow*>(options.owner)),
+      topMost_(options.topMost),
       activatable_(options.activatable),
       unseen_(options.unseen),
       focus_(this) {

@@ -60,9 +60,9 @@ class MemoryTopWindow final : public PaneOf<TopWindow>, public DesktopWindow {
   FrameStyle frame_;
   std::u16string caption_;
   MemoryTopWindow* owner_;
+  bool topMost_;
   bool activatable_;
   bool unseen_;
-  bool topMost_ = false;
   std::optional<Rect> ellipse_;
   MemoryNode* focus_ = nullptr;       ///< who has the keyboard when this window is active
   MemoryNode* dragTarget_ = nullptr;  ///< whom a drag over it was last reported to

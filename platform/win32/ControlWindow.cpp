@@ -7,14 +7,11 @@ namespace platform {
 namespace {
 
 // A frame surrounds controls that are made before and after it, and has to lie behind them all.
-void LowerFrames(HWND parent) {
-  HWND next = nullptr;
-  for (HWND child = ::GetWindow(parent, GW_CHILD); child; child = next) {
-    next = ::GetWindow(child, GW_HWNDNEXT);
-    if (!dynamic_cast<Frame*>(NativeWindow::Of(child))) continue;
-    if (!next) return;
-    ::SetWindowPos(child, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    if (!::GetWindow(next, GW_HWNDNEXT)) return;
+void LowerFrames(const NativeWindow& parent) {
+  for (NativeWindow* child : parent.Children()) {
+    if (!dynamic_cast<Frame*>(child)) continue;
+    ::SetWindowPos(child->Handle(), HWND_BOTTOM, 0, 0, 0, 0,
+                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   }
 }
 
@@ -31,7 +28,7 @@ void ControlWindow::SetColours(std::optional<Colour> text, std::optional<Colour>
   textColour_ = text;
   backgroundColour_ = background;
   brush_.reset(background ? ::CreateSolidBrush(*background) : nullptr);
-  if (Handle()) ::InvalidateRect(Handle(), nullptr, TRUE);
+  if (Seen()) ::InvalidateRect(Handle(), nullptr, TRUE);
 }
 
 bool ControlWindow::MakeChild(HWND parent, const Rect& bounds, const wchar_t* className,
@@ -44,7 +41,7 @@ bool ControlWindow::MakeChild(HWND parent, const Rect& bounds, const wchar_t* cl
                             .caption = std::u16string(caption)};
   if (!(className == kWindowClass ? Make(making) : MakeControl(making))) return false;
   SetFont(Font());
-  LowerFrames(parent);
+  if (const NativeWindow* pane = Of(parent)) LowerFrames(*pane);
   return true;
 }
 

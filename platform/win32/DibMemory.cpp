@@ -17,6 +17,14 @@ HDC DcOf(const Surface& surface) {
   return surface.Empty() ? nullptr : static_cast<DibMemory*>(surface.Memory())->Dc();
 }
 
+void CopyTo(HDC dc, const Surface& surface, Point at, const Rect& clip) {
+  const Rect place = Rect::At(at, surface.Size()).Intersected(clip);
+  if (place.Empty()) return;
+  const Point from = place.Origin() - at;
+  ::BitBlt(dc, place.left, place.top, place.Width(), place.Height(), DcOf(surface), from.x, from.y,
+           SRCCOPY);
+}
+
 std::unique_ptr<PixelMemory> NewPixelMemory(Size size) {
   auto memory = std::make_unique<DibMemory>(size);
   return memory->pixels ? std::move(memory) : nullptr;

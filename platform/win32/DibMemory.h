@@ -23,4 +23,7 @@ class DibMemory final : public PixelMemory {
 /// from the pixels after GdiFlush.
 HDC DcOf(const Surface& surface);
 
+/// Copies the surface to a place of the device context; none of it outside of `clip`.
+void CopyTo(HDC dc, const Surface& surface, Point at, const Rect& clip);
+
 }  // namespace platform

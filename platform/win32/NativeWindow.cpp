@@ -17,16 +17,18 @@ std::unordered_map<HWND, NativeWindow*>& Objects() {
   return objects;
 }
 
-BOOL CALLBACK AddWindow(HWND window, LPARAM windows) {
-  reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
-  return TRUE;
+/// Outer before inner ones. By handles: what they are told may end some of them.
+void AddWindowsWithin(const NativeWindow& window, std::vector<HWND>& windows) {
+  for (const NativeWindow* child : window.Children()) {
+    windows.push_back(child->Handle());
+    AddWindowsWithin(*child, windows);
+  }
 }
 
-/// Those within, outer before inner ones.
-std::vector<HWND> WindowsWithin(HWND window) {
-  std::vector<HWND> windows;
-  ::EnumChildWindows(window, AddWindow, reinterpret_cast<LPARAM>(&windows));
-  return windows;
+void ShowTip(const NativeWindow& window, const WindowMessage& message) {
+  if (message.id < WM_MOUSEFIRST || message.id > WM_MOUSELAST) return;
+  NativeWindow* root = NativeWindow::RootOf(window.Handle());
+  if (root && root->Tips()) root->Tips()->Pass(window.Handle(), message);
 }
 
 }  // namespace
@@ -70,7 +72,7 @@ Rect NativeWindow::Bounds() const {
 }
 
 void NativeWindow::SetBounds(const Rect& bounds) {
-  if (!handle_) return;
+  if (!handle_ || bounds == Bounds()) return;
   ::SetWindowPos(handle_, nullptr, bounds.left, bounds.top, bounds.Width(), bounds.Height(),
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
 }
@@ -92,7 +94,7 @@ void NativeWindow::SetEnabled(bool enabled) {
 }
 
 void NativeWindow::Focus() {
-  if (!handle_ || !::IsWindowVisible(handle_) || !::IsWindowEnabled(handle_)) return;
+  if (!Seen() || !::IsWindowEnabled(handle_)) return;
   const HWND root = ::GetAncestor(handle_, GA_ROOT);
   if (!::IsWindowEnabled(root)) return;
   if (::GetForegroundWindow() != root) BringToForeground(root);
@@ -109,14 +111,29 @@ void NativeWindow::SetToolTip(std::u16string_view text) {
 
 void NativeWindow::UpdateSeen() {
   if (!handle_ || !TellSeen()) return;
-  // All at once: to ask the system for one after the other takes longer than all that they do.
-  for (const HWND inner : WindowsWithin(handle_)) {
+  std::vector<HWND> within;
+  AddWindowsWithin(*this, within);
+  for (const HWND inner : within) {
     if (NativeWindow* object = Of(inner)) object->TellSeen();
   }
+  if (Seen()) PaintWhole();
+}
+
+// Through one device context that does not spare the children: asking the system for one after the
+// other takes longer than all the painting.
+void NativeWindow::PaintWhole() {
+  ::RedrawWindow(handle_, nullptr, nullptr, RDW_VALIDATE | RDW_ALLCHILDREN);
+  const HDC dc = ::GetDCEx(handle_, nullptr, DCX_CACHE | DCX_CLIPSIBLINGS);
+  PaintTree(dc, {0, 0}, Rect::At({0, 0}, Bounds().Size()));
+  ::ReleaseDC(handle_, dc);
+}
+
+void NativeWindow::PaintTree(HDC /*dc*/, Point /*at*/, const Rect& /*clip*/) {
+  ::RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
 }
 
 bool NativeWindow::TellSeen() {
-  const bool seen = ::IsWindowVisible(handle_);
+  const bool seen = Seen();
   if (seen == seen_) return false;
   seen_ = seen;
   OnSeen(seen);
@@ -140,7 +157,7 @@ bool NativeWindow::Make(const WindowMaking& making) {
   ::CreateWindowExW(making.extendedStyle, making.className, Wide(making.caption), making.style,
                     b.left, b.top, b.Width(), b.Height(), making.parent, nullptr,
                     ::GetModuleHandleW(nullptr), this);
-  seen_ = handle_ && ::IsWindowVisible(handle_);
+  seen_ = Seen();
   return handle_ != nullptr;
 }
 
@@ -160,7 +177,7 @@ bool NativeWindow::MakeControl(const WindowMaking& making) {
     ::DestroyWindow(window);
     return false;
   }
-  seen_ = ::IsWindowVisible(window);
+  seen_ = Seen();
   return true;
 }
 
@@ -171,12 +188,18 @@ void NativeWindow::Destroy() {
 void NativeWindow::Attach(HWND window) {
   handle_ = window;
   Objects()[window] = this;
+  parent_ = Of(::GetAncestor(window, GA_PARENT));
+  if (parent_) parent_->children_.push_back(this);
 }
 
 void NativeWindow::Detach() {
   if (!handle_) return;
   if (former_) ::SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(former_));
   Objects().erase(handle_);
+  if (parent_) std::erase(parent_->children_, this);
+  for (NativeWindow* child : children_) child->parent_ = nullptr;
+  parent_ = nullptr;
+  children_.clear();
   handle_ = nullptr;
 }
 
@@ -198,6 +221,7 @@ LRESULT NativeWindow::Handle(NativeWindow& target, const WindowMessage& message)
                              message.wParam, message.lParam);
   }
   try {
+    ShowTip(target, message);
     if (const auto result = target.Receive(message)) return *result;
     return target.Default(message);
   } catch (...) {
@@ -211,6 +235,8 @@ LRESULT CALLBACK NativeWindow::Procedure(HWND window, UINT id, WPARAM wParam,
   if (id == WM_NCCREATE) {
     const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
     static_cast<NativeWindow*>(creation->lpCreateParams)->Attach(window);
+    // The system would only store the caption.
+    if (!*creation->lpszName) return TRUE;
   }
   NativeWindow* target = Of(window);
   return target ? Handle(*target, {id, wParam, lParam})

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/win32/handles.h"
 #include "platform/window.h"
@@ -50,11 +51,15 @@ class NativeWindow {
   /// The object at the root of the window's tree.
   static NativeWindow* RootOf(HWND window);
 
+  /// The objects of the windows on it, in the order in which they were made.
+  const std::vector<NativeWindow*>& Children() const { return children_; }
+
   Rect Bounds() const;
   void SetBounds(const Rect& bounds);
   Rect ScreenBounds() const;
   bool Visible() const;
   void SetVisible(bool visible);
+  bool Seen() const { return handle_ && ::IsWindowVisible(handle_); }
   bool Enabled() const;
   void SetEnabled(bool enabled);
   void Focus();
@@ -67,8 +72,12 @@ class NativeWindow {
   virtual std::optional<LRESULT> Reflect(const WindowMessage&) { return std::nullopt; }
   /// The parent's canvas, which may show through, was drawn anew.
   virtual void ParentRefreshed() {}
-  /// Tells this window and its children whether they are seen, where that changed.
+  /// Tells this window and its children whether they are seen, where that changed, and paints what
+  /// came into sight.
   void UpdateSeen();
+  /// Paints it and its children at this place of the device context, where it can at once; none of
+  /// it outside of `clip`.
+  virtual void PaintTree(HDC dc, Point at, const Rect& clip);
   virtual ToolTips* Tips() { return nullptr; }
   /// Of a root: its place in the list of drop targets.
   virtual DropRegistration* Drops() { return nullptr; }
@@ -93,11 +102,14 @@ class NativeWindow {
 
   /// Tells this window alone. False: nothing changed, or it is gone now.
   bool TellSeen();
+  void PaintWhole();
 
   void Attach(HWND window);
   void Detach();
 
   HWND handle_ = nullptr;
+  NativeWindow* parent_ = nullptr;
+  std::vector<NativeWindow*> children_;
   WNDPROC former_ = nullptr;  // of one of the system's controls: its own procedure
   bool seen_ = false;
 };

@@ -31,33 +31,45 @@ HWND ChildOf(const WindowMessage& m) {
   }
 }
 
-void CopyCanvas(HDC to, const Surface& canvas, Point from) {
-  if (canvas.Empty()) return;
-  ::BitBlt(to, 0, 0, canvas.Width(), canvas.Height(), DcOf(canvas), from.x, from.y, SRCCOPY);
-}
-
 }  // namespace
 
 bool PaneWindow::Make(const WindowMaking& making) {
   making_ = true;
   const bool made = NativeWindow::Make(making);
   making_ = false;
+  shown_ = Seen();
   return made;
 }
 
 void PaneWindow::Refresh() {
-  // What is drawn out of sight is asked for when it comes into sight.
-  if (!Handle() || canvas_.Empty() || !::IsWindowVisible(Handle())) return;
+  // What is drawn out of sight is painted when it comes into sight.
+  if (canvas_.Empty() || !shown_ || !Seen()) return;
+  ShowCanvas();
+  for (NativeWindow* child : Children()) child->ParentRefreshed();
+  ::GdiFlush();
+}
+
+void PaneWindow::ShowCanvas() {
   {
     const BorrowedDc dc(Handle());
-    CopyCanvas(dc.get(), canvas_, {0, 0});
+    CopyTo(dc.get(), canvas_, {0, 0}, canvas_.Area());
   }
   ::ValidateRect(Handle(), nullptr);
-  for (HWND child = ::GetWindow(Handle(), GW_CHILD); child;
-       child = ::GetWindow(child, GW_HWNDNEXT)) {
-    if (NativeWindow* object = Of(child)) object->ParentRefreshed();
+}
+
+void PaneWindow::OnSeen(bool seen) {
+  shown_ = false;
+  events_.OnVisible(seen);
+}
+
+void PaneWindow::PaintTree(HDC dc, Point at, const Rect& clip) {
+  shown_ = true;
+  const Rect place = Rect::At(at, canvas_.Size()).Intersected(clip);
+  CopyTo(dc, canvas_, at, clip);
+  // The first made is in front.
+  for (auto child = Children().rbegin(); child != Children().rend(); ++child) {
+    if ((*child)->Visible()) (*child)->PaintTree(dc, at + (*child)->Bounds().Origin(), place);
   }
-  ::GdiFlush();
 }
 
 void PaneWindow::SetPointer(const Pointer& pointer) {
@@ -87,9 +99,10 @@ std::optional<LRESULT> PaneWindow::Receive(const WindowMessage& message) {
   }
   switch (message.id) {
     case WM_PAINT:
-      return Paint();
+      ShowCanvas();
+      return 0;
     case WM_PRINTCLIENT:
-      CopyCanvas(reinterpret_cast<HDC>(message.wParam), canvas_, {0, 0});
+      CopyTo(reinterpret_cast<HDC>(message.wParam), canvas_, {0, 0}, canvas_.Area());
       return 0;
     case WM_ERASEBKGND:
       return 1;
@@ -153,14 +166,6 @@ std::optional<LRESULT> PaneWindow::ReceiveForChild(const WindowMessage& message)
   return child ? child->Reflect(message) : std::nullopt;
 }
 
-LRESULT PaneWindow::Paint() {
-  PAINTSTRUCT paint;
-  const HDC dc = ::BeginPaint(Handle(), &paint);
-  CopyCanvas(dc, canvas_, {0, 0});
-  ::EndPaint(Handle(), &paint);
-  return 0;
-}
-
 LRESULT PaneWindow::Resize() {
   RECT client{};
   ::GetClientRect(Handle(), &client);
@@ -169,9 +174,10 @@ LRESULT PaneWindow::Resize() {
   Surface fresh(size);
   if (!canvas_.Empty()) BitBlt(fresh, canvas_.Area(), canvas_, {0, 0}, RasterOp::SrcCopy);
   canvas_ = std::move(fresh);
-  ::InvalidateRect(Handle(), nullptr, FALSE);
   // The first size is no change, and the events' owner does not have the window yet.
-  if (!making_) events_.OnResize();
+  if (making_) return 0;
+  ::InvalidateRect(Handle(), nullptr, FALSE);
+  events_.OnResize();
   return 0;
 }
 
@@ -238,7 +244,7 @@ std::optional<LRESULT> PaneWindow::ShowPointer(const WindowMessage& message) {
 void PaneWindow::PaintBehind(HWND child, HDC dc) const {
   POINT origin{0, 0};
   ::MapWindowPoints(child, Handle(), &origin, 1);
-  CopyCanvas(dc, canvas_, PointOf(origin));
+  CopyTo(dc, canvas_, Point{} - PointOf(origin), canvas_.Area());
 }
 
 bool Win32Pane::Make(HWND parent, const Rect& bounds) {

@@ -25,14 +25,15 @@ class PaneWindow : public NativeWindow {
 
  protected:
   bool Make(const WindowMaking& making);
-  void OnSeen(bool seen) override { events_.OnVisible(seen); }
+  void OnSeen(bool seen) override;
+  void PaintTree(HDC dc, Point at, const Rect& clip) override;
 
  private:
   std::optional<LRESULT> ReceivePointer(const WindowMessage& message);
   std::optional<LRESULT> ReceiveKey(const WindowMessage& message);
   std::optional<LRESULT> ReceiveForChild(const WindowMessage& message);
 
-  LRESULT Paint();
+  void ShowCanvas();
   LRESULT Resize();
   LRESULT Press(Button button, const WindowMessage& message, bool second);
   bool FollowsPress(Button button) const;
@@ -45,6 +46,7 @@ class PaneWindow : public NativeWindow {
   PaneEvents& events_;
   bool focusable_;
   Surface canvas_;
+  bool shown_ = false;  // painted since it came to be seen
   bool making_ = false;
   Pointer pointer_;
   unsigned held_ = 0;  // a bit for each button pressed here

@@ -9,7 +9,7 @@ TTTOOLINFOW ToolOf(HWND owner, HWND window) {
   TTTOOLINFOW tool{};
   // The full size is refused where the program runs with the older common controls.
   tool.cbSize = TTTOOLINFOW_V2_SIZE;
-  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.uFlags = TTF_IDISHWND;
   tool.hwnd = owner;
   tool.uId = reinterpret_cast<UINT_PTR>(window);
   return tool;
@@ -24,18 +24,38 @@ bool ToolTips::Ready() {
                                 WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
                                 CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner_, nullptr,
                                 ::GetModuleHandleW(nullptr), nullptr));
-  return tips_ != nullptr;
+  if (!tips_) return false;
+  for (const auto& [window, text] : texts_) Add(window, text);
+  return true;
 }
 
 void ToolTips::Set(HWND window, std::u16string_view text) {
-  if (text.empty() && !tips_) return;
-  if (!Ready()) return;
-  TTTOOLINFOW tool = ToolOf(owner_, window);
-  ::SendMessageW(tips_.get(), TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  if (texts_.erase(window) != 0 && tips_) Remove(window);
   if (text.empty()) return;
+  texts_.emplace(window, text);
+  if (tips_) Add(window, text);
+}
+
+void ToolTips::Pass(HWND window, const WindowMessage& message) {
+  if (!texts_.contains(window) || !Ready()) return;
+  MSG passed{};
+  passed.hwnd = window;
+  passed.message = message.id;
+  passed.wParam = message.wParam;
+  passed.lParam = message.lParam;
+  ::SendMessageW(tips_.get(), TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&passed));
+}
+
+void ToolTips::Add(HWND window, std::u16string_view text) {
+  TTTOOLINFOW tool = ToolOf(owner_, window);
   std::u16string shown(text);
   tool.lpszText = WideBuffer(shown);
   ::SendMessageW(tips_.get(), TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+void ToolTips::Remove(HWND window) {
+  TTTOOLINFOW tool = ToolOf(owner_, window);
+  ::SendMessageW(tips_.get(), TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 }  // namespace platform

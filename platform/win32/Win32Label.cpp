@@ -28,7 +28,7 @@ bool Win32Label::Make(HWND parent, const Rect& bounds, std::u16string_view capti
 
 void Win32Label::SetCaption(std::u16string_view caption) {
   SetWindowText(caption);
-  if (Handle()) ::InvalidateRect(Handle(), nullptr, FALSE);
+  if (Seen()) ::InvalidateRect(Handle(), nullptr, FALSE);
 }
 
 std::optional<LRESULT> Win32Label::Receive(const WindowMessage& message) {
@@ -73,13 +73,16 @@ void Win32Label::Release(const WindowMessage& message) {
 LRESULT Win32Label::Paint() {
   PAINTSTRUCT paint;
   const HDC dc = ::BeginPaint(Handle(), &paint);
-  Surface surface(NativeWindow::Bounds().Size());
-  if (!surface.Empty()) {
-    DrawOn(surface);
-    ::BitBlt(dc, 0, 0, surface.Width(), surface.Height(), DcOf(surface), 0, 0, SRCCOPY);
-  }
+  PaintTree(dc, {0, 0}, Rect::At({0, 0}, NativeWindow::Bounds().Size()));
   ::EndPaint(Handle(), &paint);
   return 0;
+}
+
+void Win32Label::PaintTree(HDC dc, Point at, const Rect& clip) {
+  Surface surface(NativeWindow::Bounds().Size());
+  if (surface.Empty()) return;
+  DrawOn(surface);
+  CopyTo(dc, surface, at, clip);
 }
 
 void Win32Label::DrawOn(Surface& surface) const {

@@ -16,6 +16,7 @@ class Win32Label final : public ControlOf<Label> {
   void SetPointer(const Pointer& pointer) override { pointer_ = pointer; }
 
   std::optional<LRESULT> Receive(const WindowMessage& message) override;
+  void PaintTree(HDC dc, Point at, const Rect& clip) override;
 
  private:
   LRESULT Paint();

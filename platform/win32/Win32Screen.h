@@ -5,7 +5,7 @@
 namespace platform {
 
 /// Whenever a window is told of another display mode.
-void ForgetScreenDepth();
+void ForgetScreenMode();
 
 class Win32Screen final : public Screen {
  public:

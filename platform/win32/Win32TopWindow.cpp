@@ -28,6 +28,7 @@ Frame FrameOf(const TopWindowOptions& options) {
   }
   if (!options.activatable) frame.extended |= WS_EX_NOACTIVATE;
   if (options.unseen) frame.extended |= WS_EX_LAYERED;
+  if (options.topMost) frame.extended |= WS_EX_TOPMOST;
   return frame;
 }
 
@@ -82,8 +83,11 @@ void Win32TopWindow::SetVisible(bool visible) {
 void Win32TopWindow::Show(ShowMode mode) {
   if (!Handle()) return;
   const UINT order = mode == ShowMode::Activate ? 0 : SWP_NOZORDER;
+  // What has no frame paints itself whole as soon as it is seen.
+  const bool framed = (::GetWindowLongPtrW(Handle(), GWL_STYLE) & WS_CAPTION) != 0;
+  const UINT erasing = framed ? 0 : SWP_DEFERERASE;
   ::SetWindowPos(Handle(), HWND_TOP, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW | order);
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW | order | erasing);
   UpdateSeen();
   if (mode == ShowMode::Activate && Handle()) BringToForeground(Handle());
 }
@@ -161,7 +165,7 @@ std::optional<LRESULT> Win32TopWindow::Receive(const WindowMessage& message) {
       PassActivationOn();
       return 0;
     case WM_DISPLAYCHANGE:
-      ForgetScreenDepth();
+      ForgetScreenMode();
       return std::nullopt;
     case WM_DESTROY:
       drops_.Revoke();

@@ -16,6 +16,7 @@ class WindowOf : public PortType, public Native {
   Rect ScreenBounds() const override { return Native::ScreenBounds(); }
   bool Visible() const override { return Native::Visible(); }
   void SetVisible(bool visible) override { Native::SetVisible(visible); }
+  bool Seen() const override { return Native::Seen(); }
   bool Enabled() const override { return Native::Enabled(); }
   void SetEnabled(bool enabled) override { Native::SetEnabled(enabled); }
   void Focus() override { Native::Focus(); }

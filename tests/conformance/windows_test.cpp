@@ -141,15 +141,54 @@ TEST_F(Windows, BeingSeenIsToldToAllWhoAreSeenWithIt) {
   EXPECT_EQ(listener.Count("seen"), 1);
   EXPECT_EQ(outer.Count("seen"), 1);
   EXPECT_EQ(inner.Count("seen"), 0);
+  EXPECT_TRUE(pane->Seen());
+  EXPECT_FALSE(child->Seen());
   child->SetVisible(true);
   EXPECT_EQ(inner.Count("seen"), 1);
   pane->SetVisible(false);
   EXPECT_EQ(outer.Count("gone"), 1);
   EXPECT_EQ(inner.Count("gone"), 1);
   EXPECT_TRUE(child->Visible()) << "its own flag stays";
+  EXPECT_FALSE(child->Seen());
   window->Hide();
   EXPECT_EQ(listener.Count("gone"), 1);
   EXPECT_EQ(outer.Count("gone"), 1);
+}
+
+TEST_F(Windows, WhatWasDrawnOutOfSightIsThereOnceItIsSeen) {
+  constexpr platform::Colour kBack = 0x302010, kFront = 0xA0B0C0, kBehind = 0x00C000,
+                             kInner = 0x4050F0, kLater = 0xF00000;
+  Listener listener, frontListener, behindListener, innerListener;
+  const auto window = NewWindow(listener, kOurs);
+  const auto front = NewPane(*window, {10, 10, 90, 90}, frontListener);
+  const auto behind = NewPane(*window, {50, 50, 150, 150}, behindListener);
+  const auto inner = NewPane(*front, {60, 0, 160, 20}, innerListener);
+  const auto fill = [](platform::Pane& pane, platform::Colour colour) {
+    platform::FillRect(pane.Canvas(), pane.Canvas().Area(), colour);
+    pane.Refresh();
+  };
+  fill(*inner, kInner);
+  fill(*behind, kBehind);
+  fill(*front, kFront);
+  fill(*window, kBack);
+  const auto shows = [&](Point p, platform::Colour colour) {
+    return Until(
+        [&] { return desktop().screen().ColourAt(kOurs.Origin() + p).value_or(~colour) == colour; },
+        1s);
+  };
+  window->Show(ShowMode::NoActivate);
+  EXPECT_TRUE(shows({5, 5}, kBack));
+  EXPECT_TRUE(shows({20, 20}, kFront));
+  EXPECT_TRUE(shows({70, 70}, kFront)) << "the first made is in front";
+  EXPECT_TRUE(shows({120, 120}, kBehind));
+  EXPECT_TRUE(shows({80, 20}, kInner));
+  EXPECT_TRUE(shows({100, 20}, kBack)) << "none is seen outside of its parent";
+  front->SetVisible(false);
+  EXPECT_TRUE(shows({70, 70}, kBehind));
+  fill(*front, kLater);
+  front->SetVisible(true);
+  EXPECT_TRUE(shows({70, 70}, kLater));
+  EXPECT_TRUE(shows({80, 20}, kInner));
 }
 
 TEST_F(Windows, TheCanvasFollowsTheSizeAndKeepsItsContent) {
@@ -252,12 +291,12 @@ TEST_F(Windows, TheWindowSeesKeysBeforeItsChildren) {
 
 TEST_F(Windows, TopMostWindowsAndOwnedOnesStandInFront) {
   Listener listener;
-  const auto bar = NewWindow(listener, {60, 60, 160, 160});
+  const auto bar = desktop().windows().NewTopWindow({.topMost = true}, listener);
+  bar->SetBounds({60, 60, 160, 160});
   const auto plain = NewWindow(listener, {60, 60, 160, 160});
   const auto owned = NewWindow(listener, {100, 100, 140, 140}, plain.get());
   const Point edge{70, 70}, middle{120, 120};
   const auto at = [&](Point p) { return desktop().windows().WindowAt(p); };
-  bar->SetTopMost(true);
   bar->Show(ShowMode::NoActivate);
   plain->Show(ShowMode::Activate);
   owned->Show(ShowMode::NoActivate);
