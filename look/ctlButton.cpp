@@ -170,7 +170,7 @@ void ctlButton::Release() {
 }
 
 void ctlButton::FlashGreen() {
-  if (!pane_) return;
+  if (!pane_ || !pane_->Seen()) return;
   auto& canvas = pane_->Canvas();
   ColorBlt(canvas, canvas.Area(), {canvas, {0, 0}}, kGreen, kFlashAlpha);
   pane_->Refresh();

@@ -28,7 +28,6 @@ platform::Colour ColourOf(SystemColour which) {
 
 ctlRoundBrd::ctlRoundBrd(platform::Pane& parent, const Rect& bounds)
     : HighColor_(GetDepth() >= kHighColorDepth),
-      seen_(parent.Visible()),
       pane_(platform::TheDesktop().windows().NewPane(parent, bounds, false, *this)) {
   TakeColours();
   BuildFrame();
@@ -67,14 +66,13 @@ void ctlRoundBrd::DrawFrame() {
 }
 
 void ctlRoundBrd::OnResize() {
-  if (seen_)
+  if (pane_->Seen())
     DrawFrame();
   else
     PendingDraw_ = true;
 }
 
 void ctlRoundBrd::OnVisible(bool visible) {
-  seen_ = visible;
   if (visible && PendingDraw_) DrawFrame();
   PendingDraw_ = false;
 }

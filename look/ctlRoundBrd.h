@@ -35,7 +35,6 @@ class ctlRoundBrd final : private platform::PaneEvents {
   bool PendingDraw_ = false;  ///< the size changed while it was not seen
   bool Prepared_ = false;     ///< picTmp_ holds the coloured frame
   bool HighColor_ = false;
-  bool seen_ = false;
   platform::Surface picTmp_;
   std::unique_ptr<platform::Pane> pane_;
 };

@@ -35,7 +35,7 @@ class Window {
   [[nodiscard]] virtual Rect ScreenBounds() const = 0;
   /// Its own flag; it is seen only when its parents are visible too.
   [[nodiscard]] virtual bool Visible() const = 0;
-  /// For a child; a TopWindow is shown by Show and Hide.
+  /// For a child, which is painted at once where it then is; a TopWindow is shown by Show and Hide.
   virtual void SetVisible(bool visible) = 0;
   /// Whether it and all around it are visible.
   [[nodiscard]] virtual bool Seen() const = 0;

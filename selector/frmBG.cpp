@@ -96,6 +96,8 @@ bool frmBG::Init(Reuse reuse) {
   watch_.ArmedFocus = false;
   InitBG(reuse);
   if (!Loaded()) return false;
+  // The ring came to the front with its activation.
+  if (Vertical) Window().SetTopMost(true);
   const int last = LastFunction();
   const bool animate = Set().AnimateAtStart && !Set().DontAnimate;
   if (Vertical && reuse == Reuse::No) {

@@ -114,7 +114,8 @@ void frmMenu::Init(int index, bool below, Reuse reuse) {
   }
   Window().SetBounds(Rect::At(place, size));
   LayOut();
-  if (reuse == Reuse::Yes) InFG();
+  // The ring's own host comes to the front with its activation.
+  if (state_.vertical || reuse == Reuse::Yes) InFG();
 }
 
 void frmMenu::OnResize() {
@@ -129,8 +130,8 @@ void frmMenu::LayOut() {
 
 void frmMenu::PlaceControls(const HostParts& parts) {
   const auto place = [](ctlButton& button, const Rect& bounds, bool visible) {
-    button.SetVisible(visible);
     if (visible) button.SetBounds(bounds);
+    button.SetVisible(visible);
   };
   place(*btnClose_, parts.btnClose, parts.showClose);
   place(*btnRight_, parts.btnRight, parts.showRight);

@@ -75,8 +75,8 @@ void PaneNode::OnKeyInput(KeyEvent& event, bool down) {
 }
 
 void PaneNode::OnSeenChange(bool seen) {
-  if (seen) shown_ = CanvasOf().Clone();  // the system asks for a picture when a window comes up
   events_->OnVisible(seen);
+  if (seen && Alive()) shown_ = CanvasOf().Clone();  // a window that comes up is painted whole
 }
 
 void PaneNode::OnMoved(Size former) {

@@ -41,13 +41,11 @@ bool ControlWindow::MakeChild(HWND parent, const Rect& bounds, const wchar_t* cl
                             .caption = std::u16string(caption)};
   if (!(className == kWindowClass ? Make(making) : MakeControl(making))) return false;
   SetFont(Font());
-  if (const NativeWindow* pane = Of(parent)) LowerFrames(*pane);
+  if (Outer()) LowerFrames(*Outer());
   return true;
 }
 
-PaneWindow* ControlWindow::Parent() const {
-  return Handle() ? dynamic_cast<PaneWindow*>(Of(::GetAncestor(Handle(), GA_PARENT))) : nullptr;
-}
+PaneWindow* ControlWindow::Parent() const { return dynamic_cast<PaneWindow*>(Outer()); }
 
 void ControlWindow::SetWindowText(std::u16string_view text) {
   if (Handle()) ::SetWindowTextW(Handle(), Terminated(text));

@@ -116,26 +116,28 @@ void NativeWindow::UpdateSeen() {
   for (const HWND inner : within) {
     if (NativeWindow* object = Of(inner)) object->TellSeen();
   }
-  if (Seen()) PaintWhole();
+  // The system's own controls paint themselves.
+  if (Seen() && !former_) PaintWhole();
 }
 
 // Through one device context that does not spare the children: asking the system for one after the
 // other takes longer than all the painting.
 void NativeWindow::PaintWhole() {
+  const BorrowedDc dc(handle_, DCX_CACHE | DCX_CLIPSIBLINGS);
+  if (!dc.get()) return;
   ::RedrawWindow(handle_, nullptr, nullptr, RDW_VALIDATE | RDW_ALLCHILDREN);
-  const HDC dc = ::GetDCEx(handle_, nullptr, DCX_CACHE | DCX_CLIPSIBLINGS);
-  PaintTree(dc, {0, 0}, Rect::At({0, 0}, Bounds().Size()));
-  ::ReleaseDC(handle_, dc);
+  PaintTree(dc.get(), {0, 0}, Rect::At({0, 0}, Bounds().Size()));
 }
 
 void NativeWindow::PaintTree(HDC /*dc*/, Point /*at*/, const Rect& /*clip*/) {
-  ::RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
+  ::RedrawWindow(handle_, nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
 bool NativeWindow::TellSeen() {
   const bool seen = Seen();
-  if (seen == seen_) return false;
-  seen_ = seen;
+  if (seen == toldSeen_) return false;
+  toldSeen_ = seen;
   OnSeen(seen);
   return handle_ != nullptr;
 }
@@ -157,7 +159,7 @@ bool NativeWindow::Make(const WindowMaking& making) {
   ::CreateWindowExW(making.extendedStyle, making.className, Wide(making.caption), making.style,
                     b.left, b.top, b.Width(), b.Height(), making.parent, nullptr,
                     ::GetModuleHandleW(nullptr), this);
-  seen_ = Seen();
+  toldSeen_ = Seen();
   return handle_ != nullptr;
 }
 
@@ -167,7 +169,7 @@ bool NativeWindow::MakeControl(const WindowMaking& making) {
       making.extendedStyle, making.className, Wide(making.caption), making.style, b.left, b.top,
       b.Width(), b.Height(), making.parent, nullptr, ::GetModuleHandleW(nullptr), nullptr);
   if (!window) return false;
-  Attach(window);
+  Attach(window, making.parent);
   // Not by the system's list of subclasses, which it keeps as a property, to be fetched at every
   // message.
   former_ = reinterpret_cast<WNDPROC>(
@@ -177,7 +179,7 @@ bool NativeWindow::MakeControl(const WindowMaking& making) {
     ::DestroyWindow(window);
     return false;
   }
-  seen_ = Seen();
+  toldSeen_ = Seen();
   return true;
 }
 
@@ -185,20 +187,20 @@ void NativeWindow::Destroy() {
   if (handle_) ::DestroyWindow(handle_);
 }
 
-void NativeWindow::Attach(HWND window) {
+void NativeWindow::Attach(HWND window, HWND parent) {
   handle_ = window;
   Objects()[window] = this;
-  parent_ = Of(::GetAncestor(window, GA_PARENT));
-  if (parent_) parent_->children_.push_back(this);
+  outer_ = Of(parent);
+  if (outer_) outer_->children_.push_back(this);
 }
 
 void NativeWindow::Detach() {
   if (!handle_) return;
   if (former_) ::SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(former_));
   Objects().erase(handle_);
-  if (parent_) std::erase(parent_->children_, this);
-  for (NativeWindow* child : children_) child->parent_ = nullptr;
-  parent_ = nullptr;
+  if (outer_) std::erase(outer_->children_, this);
+  for (NativeWindow* child : children_) child->outer_ = nullptr;
+  outer_ = nullptr;
   children_.clear();
   handle_ = nullptr;
 }
@@ -234,9 +236,10 @@ LRESULT CALLBACK NativeWindow::Procedure(HWND window, UINT id, WPARAM wParam,
                                          LPARAM lParam) noexcept {
   if (id == WM_NCCREATE) {
     const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
-    static_cast<NativeWindow*>(creation->lpCreateParams)->Attach(window);
+    const HWND parent = creation->style & WS_CHILD ? creation->hwndParent : nullptr;
+    static_cast<NativeWindow*>(creation->lpCreateParams)->Attach(window, parent);
     // The system would only store the caption.
-    if (!*creation->lpszName) return TRUE;
+    if (View(creation->lpszName).empty()) return TRUE;
   }
   NativeWindow* target = Of(window);
   return target ? Handle(*target, {id, wParam, lParam})

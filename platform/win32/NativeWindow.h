@@ -53,6 +53,8 @@ class NativeWindow {
 
   /// The objects of the windows on it, in the order in which they were made.
   const std::vector<NativeWindow*>& Children() const { return children_; }
+  /// The object that it stands on; null for a window on the desktop.
+  NativeWindow* Outer() const { return outer_; }
 
   Rect Bounds() const;
   void SetBounds(const Rect& bounds);
@@ -104,14 +106,14 @@ class NativeWindow {
   bool TellSeen();
   void PaintWhole();
 
-  void Attach(HWND window);
+  void Attach(HWND window, HWND parent);
   void Detach();
 
   HWND handle_ = nullptr;
-  NativeWindow* parent_ = nullptr;
+  NativeWindow* outer_ = nullptr;
   std::vector<NativeWindow*> children_;
   WNDPROC former_ = nullptr;  // of one of the system's controls: its own procedure
-  bool seen_ = false;
+  bool toldSeen_ = false;
 };
 
 /// The class of the program's own windows; they all share one procedure.

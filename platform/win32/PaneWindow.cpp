@@ -49,12 +49,11 @@ void PaneWindow::Refresh() {
   ::GdiFlush();
 }
 
+// What is uncovered from now on counts as unpainted again.
 void PaneWindow::ShowCanvas() {
-  {
-    const BorrowedDc dc(Handle());
-    CopyTo(dc.get(), canvas_, {0, 0}, canvas_.Area());
-  }
   ::ValidateRect(Handle(), nullptr);
+  const BorrowedDc dc(Handle());
+  CopyTo(dc.get(), canvas_, {0, 0}, canvas_.Area());
 }
 
 void PaneWindow::OnSeen(bool seen) {
@@ -99,8 +98,7 @@ std::optional<LRESULT> PaneWindow::Receive(const WindowMessage& message) {
   }
   switch (message.id) {
     case WM_PAINT:
-      ShowCanvas();
-      return 0;
+      return Paint();
     case WM_PRINTCLIENT:
       CopyTo(reinterpret_cast<HDC>(message.wParam), canvas_, {0, 0}, canvas_.Area());
       return 0;
@@ -164,6 +162,15 @@ std::optional<LRESULT> PaneWindow::ReceiveKey(const WindowMessage& message) {
 std::optional<LRESULT> PaneWindow::ReceiveForChild(const WindowMessage& message) {
   NativeWindow* child = Of(ChildOf(message));
   return child ? child->Reflect(message) : std::nullopt;
+}
+
+LRESULT PaneWindow::Paint() {
+  shown_ = true;
+  PAINTSTRUCT paint;
+  const HDC dc = ::BeginPaint(Handle(), &paint);
+  CopyTo(dc, canvas_, {0, 0}, canvas_.Area());
+  ::EndPaint(Handle(), &paint);
+  return 0;
 }
 
 LRESULT PaneWindow::Resize() {

@@ -34,6 +34,7 @@ class PaneWindow : public NativeWindow {
   std::optional<LRESULT> ReceiveForChild(const WindowMessage& message);
 
   void ShowCanvas();
+  LRESULT Paint();
   LRESULT Resize();
   LRESULT Press(Button button, const WindowMessage& message, bool second);
   bool FollowsPress(Button button) const;

@@ -56,9 +56,9 @@ void Win32OptionButton::OnCommand(int code) {
 
 std::vector<OptionButton*> Win32OptionButton::Group() const {
   std::vector<OptionPlace> siblings;
-  for (HWND child = ::GetWindow(Handle(), GW_HWNDFIRST); child;
-       child = ::GetWindow(child, GW_HWNDNEXT)) {
-    auto* option = dynamic_cast<Win32OptionButton*>(Of(child));
+  if (!Outer()) return {};
+  for (NativeWindow* child : Outer()->Children()) {
+    auto* option = dynamic_cast<Win32OptionButton*>(child);
     if (option) siblings.push_back({option, option->startsGroup_});
   }
   return OptionGroup(siblings, *this);

@@ -4,7 +4,7 @@
 
 namespace platform {
 
-/// Whenever a window is told of another display mode.
+/// Whenever a window is told of another display mode or setting.
 void ForgetScreenMode();
 
 class Win32Screen final : public Screen {

@@ -165,6 +165,7 @@ std::optional<LRESULT> Win32TopWindow::Receive(const WindowMessage& message) {
       PassActivationOn();
       return 0;
     case WM_DISPLAYCHANGE:
+    case WM_SETTINGCHANGE:
       ForgetScreenMode();
       return std::nullopt;
     case WM_DESTROY:

@@ -69,6 +69,9 @@ using OwnedGlobal = Owned<HGLOBAL, FreeGlobal>;
 class BorrowedDc {
  public:
   explicit BorrowedDc(HWND window) : window_(window), dc_(::GetDC(window)) {}
+  /// `clipping`: flags of GetDCEx.
+  BorrowedDc(HWND window, DWORD clipping)
+      : window_(window), dc_(::GetDCEx(window, nullptr, clipping)) {}
   ~BorrowedDc() {
     if (dc_) ::ReleaseDC(window_, dc_);
   }
