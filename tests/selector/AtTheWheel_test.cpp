@@ -16,63 +16,30 @@ class AtTheWheel : public WithProgram {
   }
   std::int32_t LastFunction() { return RegGetLong(kProgramKey, u"LastFunction", -1); }
   void StoreLastFunction(int function) { RegSetLong(kProgramKey, u"LastFunction", function); }
-};
-
-struct GestureCase {
-  const char* name;
-  bool Settings::*setting;
-  std::vector<Button> buttons;
-  std::chrono::milliseconds atMost;  ///< from the press to the wheel
-};
-
-const GestureCase kGestures[] = {
-    {"both buttons", &Settings::BothBtn, {Button::Left, Button::Right}, 450ms},
-    {"middle button", &Settings::MiddleBtn, {Button::Middle}, 450ms},
-    {"right button", &Settings::RightBtn, {Button::Right}, 600ms},
-    {"left button", &Settings::LeftBtn, {Button::Left}, 750ms},
-};
-
-TEST_F(AtTheWheel, EveryHoldOpensItAndItsReleaseDoesNotCloseIt) {
-  for (const GestureCase& c : kGestures) {
-    SCOPED_TRACE(c.name);
-    settings.LeftBtn = settings.RightBtn = settings.MiddleBtn = settings.BothBtn = false;
-    settings.*c.setting = true;
-    user.MoveTo(editor.Middle());
-    for (Button button : c.buttons) user.Press(button);
-    user.Wait(290ms);
-    EXPECT_EQ(Ring(), nullptr);
-    user.Wait(c.atMost - 290ms + 10ms);
-    ASSERT_NE(Ring(), nullptr);
-    EXPECT_TRUE(Ring()->Opened);
-    for (Button button : c.buttons) user.Release(button);
-    user.Wait(1000ms);
-    ASSERT_NE(Ring(), nullptr);
-    user.Click(Empty(*Ring()));
-    EXPECT_EQ(Ring(), nullptr);
-    EXPECT_TRUE(EditorIsActive());
+  /// Without a pump: the click waits in the queue for the program to look.
+  void ClickUnseen(Point at) {
+    desktop.input().HandMoves(at);
+    desktop.input().HandPresses(Button::Left);
+    desktop.input().HandReleases(Button::Left);
   }
-}
+};
 
-TEST_F(AtTheWheel, ScrollLockOpensItAndKeepsItsLamp) {
-  user.KeyDown(platform::key::kScrollLock);
-  user.Wait(150ms);
-  EXPECT_NE(Ring(), nullptr);
-  EXPECT_FALSE(desktop.input().ScrollLockOn());
-  user.KeyUp(platform::key::kScrollLock);
-  user.Wait(500ms);
-  EXPECT_FALSE(desktop.input().ScrollLockOn());
-}
-
-TEST_F(AtTheWheel, ADragOpensNothing) {
-  user.Press(Button::Middle);
-  user.Wait(160ms);
-  user.MoveTo(editor.Middle() + Point{4, 3});
-  user.Wait(5000ms);
+TEST_F(AtTheWheel, AClickElsewhereClosesItButTheGesturesOwnReleaseDoesNot) {
+  user.MoveTo({300, 200});
+  user.Press(Button::Left);
+  user.Hold(Button::Right, 290ms);
   EXPECT_EQ(Ring(), nullptr);
-  user.Release(Button::Middle);
-  user.Wait(160ms);
-  OpenWheel();
-  EXPECT_NE(Ring(), nullptr);
+  user.Wait(170ms);
+  ASSERT_NE(Ring(), nullptr);
+  user.Release(Button::Left);
+  user.Release(Button::Right);
+  user.Wait(1000ms);
+  ASSERT_NE(Host(), nullptr);
+  user.Click(Point{580, 460});
+  user.Wait(20ms);
+  EXPECT_EQ(Ring(), nullptr);
+  EXPECT_TRUE(Hosts().empty());
+  EXPECT_TRUE(EditorIsActive());
 }
 
 TEST_F(AtTheWheel, AnswersWhileAModalDialogIsOpenNeitherToGesturesNorToItsIcon) {
@@ -85,16 +52,6 @@ TEST_F(AtTheWheel, AnswersWhileAModalDialogIsOpenNeitherToGesturesNorToItsIcon) 
   desktop.taskBar().Happens(platform::TaskBarEvent::LeftUp);
   user.Wait(0ms);
   EXPECT_NE(Ring(), nullptr);
-}
-
-TEST_F(AtTheWheel, AClickElsewhereClosesIt) {
-  OpenWheelAt({300, 200});
-  ASSERT_NE(Host(), nullptr);
-  user.Click(Point{580, 460});
-  user.Wait(20ms);
-  EXPECT_EQ(Ring(), nullptr);
-  EXPECT_TRUE(Hosts().empty());
-  EXPECT_TRUE(EditorIsActive());
 }
 
 TEST_F(AtTheWheel, ARightClickOnABubbleDoesNothingAndBesideTheBubblesCloses) {
@@ -207,9 +164,7 @@ TEST_F(AtTheWheel, ClicksWhileItsHostFadesInMeanNothing) {
     bool open = false, clicked = false;
     user.Later(100ms, [&, at] {
       clicked = Ring() != nullptr && !open;
-      desktop.input().HandMoves(at);
-      desktop.input().HandPresses(Button::Left);
-      desktop.input().HandReleases(Button::Left);
+      ClickUnseen(at);
     });
     desktop.taskBar().Happens(platform::TaskBarEvent::LeftUp);
     desktop.pump().DoEvents();
@@ -271,13 +226,8 @@ TEST_F(AtTheWheel, DraggingOverABubbleOpensItsPanelAndTheWheelTakesNothing) {
   EXPECT_EQ(editor.Text(), u"Text");
 }
 
-TEST_F(AtTheWheel, AWindowThatCannotBeMadeLeavesNothingBehind) {
-  desktop.faults().FailNext("Windows.NewTopWindow");
+TEST_F(AtTheWheel, WithoutAHostItStillHelpsAndOpensAnother) {
   OpenWheel();
-  EXPECT_EQ(Ring(), nullptr);
-  EXPECT_TRUE(EditorIsActive());
-  OpenWheel();
-  ASSERT_NE(Ring(), nullptr);
   desktop.faults().FailNext("Windows.NewTopWindow");
   user.Click(Bubble(*Ring(), u"Rechner"));
   ASSERT_NE(Ring(), nullptr);
@@ -293,14 +243,8 @@ TEST_F(AtTheWheel, AClickDuringTheHandOverNeitherClosesTheRingNorOpensAnotherPan
   for (const bool onBubble : {false, true}) {
     StoreLastFunction(3);
     OpenWheel();
-    auto& input = desktop.input();
-    const Point button = HostButton(*Host(), u"An Bildschirmrand")->OnScreen().Middle();
-    const Point second = onBubble ? Bubble(*Ring(), u"Farben") : Empty(*Ring());
-    for (const Point at : {button, second}) {
-      input.HandMoves(at);
-      input.HandPresses(Button::Left);
-      input.HandReleases(Button::Left);
-    }
+    ClickUnseen(HostButton(*Host(), u"An Bildschirmrand")->OnScreen().Middle());
+    ClickUnseen(onBubble ? Bubble(*Ring(), u"Farben") : Empty(*Ring()));
     user.Wait(1s);
     EXPECT_EQ(Ring(), nullptr);
     ASSERT_NE(Column(), nullptr);
@@ -314,10 +258,7 @@ TEST_F(AtTheWheel, AClickDuringTheHandOverNeitherClosesTheRingNorOpensAnotherPan
 TEST_F(AtTheWheel, AHandOverInWhichTheProgramQuitsLeavesNothing) {
   StoreLastFunction(3);
   OpenWheel();
-  auto& input = desktop.input();
-  input.HandMoves(HostButton(*Host(), u"An Bildschirmrand")->OnScreen().Middle());
-  input.HandPresses(Button::Left);
-  input.HandReleases(Button::Left);
+  ClickUnseen(HostButton(*Host(), u"An Bildschirmrand")->OnScreen().Middle());
   desktop.pump().Post([] { frmEmpty::Instance()->Quit(); });
   user.Wait(1s);
   EXPECT_TRUE(platform::TheForms().Empty());

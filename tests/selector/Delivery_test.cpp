@@ -18,24 +18,7 @@ class ADelivery : public WithProgram {
     return std::chrono::duration_cast<std::chrono::milliseconds>(desktop.clock().SinceStart() -
                                                                  before);
   }
-  bool AllFormsEnabled() {
-    for (platform::Form* form : platform::TheForms().All()) {
-      if (!form->Window().Enabled()) return false;
-    }
-    return true;
-  }
 };
-
-TEST_F(ADelivery, ArrivesAndClosesTheWheelWithItsHost) {
-  OpenPanel(u"Rechner");
-  SendToTarget(u"1+1 = {2}", *Host(), false, 0);
-  EXPECT_EQ(editor.Text(), u"1+1 = {2}");
-  EXPECT_EQ(Ring(), nullptr);
-  EXPECT_TRUE(Hosts().empty());
-  EXPECT_TRUE(EditorIsActive());
-  EXPECT_FALSE(state.Sending);
-  EXPECT_TRUE(AllFormsEnabled());
-}
 
 TEST_F(ADelivery, OfNothingStillWaitsAndCloses) {
   OpenPanel(u"Rechner");
@@ -43,6 +26,7 @@ TEST_F(ADelivery, OfNothingStillWaitsAndCloses) {
   EXPECT_GE(time, 180ms);
   EXPECT_EQ(editor.KeysTaken(), 0);
   EXPECT_EQ(Ring(), nullptr);
+  EXPECT_TRUE(Hosts().empty());
 }
 
 TEST_F(ADelivery, WaitsAsLongAsTheUserWantsAndNoLonger) {
@@ -130,16 +114,14 @@ TEST_F(ADelivery, LeavesTheHostFreeAndWithoutTheFocusWhereTheUserWantsItToStay) 
   settings.StayAfterSend = true;
   OpenPanel(u"Rechner");
   frmMenu& host = *Host();
-  for (const auto text : {u"1", u"12", u"123"}) {
-    SendToTarget(std::u16string_view(text).substr(std::u16string_view(text).size() - 1), host,
-                 false, 0);
-    EXPECT_EQ(editor.Text(), text);
+  for (const auto* text : {u"1", u"2", u"3"}) {
+    SendToTarget(text, host, false, 0);
     EXPECT_EQ(Ring(), nullptr);
-    EXPECT_TRUE(host.Free());
-    EXPECT_TRUE(host.Visible());
+    EXPECT_TRUE(host.Free() && host.Visible());
     EXPECT_TRUE(EditorIsActive());
     EXPECT_FALSE(state.Sending);
   }
+  EXPECT_EQ(editor.Text(), u"123");
 }
 
 TEST_F(ADelivery, FromAFreeHostNeverCountsAsSendingAndTheHostComesBack) {
@@ -159,33 +141,23 @@ TEST_F(ADelivery, FromAFreeHostNeverCountsAsSendingAndTheHostComesBack) {
   EXPECT_TRUE(EditorIsActive());
 }
 
-TEST_F(ADelivery, FromTheSidebarHidesTheColumnAndKeepsItsPanel) {
+TEST_F(ADelivery, FromTheSidebarHidesTheColumnAndKeepsItsPanelOrLeavesItFree) {
   ChooseInTaskMenu(u"Seitenleiste aktivieren");
-  user.Click(editor.Middle());
-  OpenSidebar();
-  ASSERT_NE(Column(), nullptr);
-  frmMenu* host = Host();
-  ASSERT_NE(host, nullptr);
-  SendToTarget(u"x", *host, false, 0);
-  EXPECT_EQ(editor.Text(), u"x");
-  ASSERT_NE(Column(), nullptr);
-  EXPECT_FALSE(Column()->Visible());
-  EXPECT_EQ(Host(), host);
-  EXPECT_FALSE(state.Sending);
-}
-
-TEST_F(ADelivery, FromTheSidebarCanLeaveTheHostFreeToo) {
-  settings.StayAfterSend = true;
-  ChooseInTaskMenu(u"Seitenleiste aktivieren");
-  user.Click(editor.Middle());
-  OpenSidebar();
-  frmMenu* host = Host();
-  ASSERT_NE(host, nullptr);
-  SendToTarget(u"x", *host, false, 0);
-  EXPECT_EQ(editor.Text(), u"x");
-  EXPECT_EQ(Column(), nullptr);
-  EXPECT_TRUE(host->Free() && host->Visible());
-  EXPECT_TRUE(EditorIsActive());
+  for (const bool stay : {false, true}) {
+    settings.StayAfterSend = stay;
+    user.Click(editor.Middle());
+    OpenSidebar();
+    frmMenu* host = Host();
+    ASSERT_NE(host, nullptr);
+    SendToTarget(u"x", *host, false, 0);
+    EXPECT_EQ(editor.Text(), stay ? u"xx" : u"x");
+    EXPECT_EQ(Host(), stay ? nullptr : host);
+    EXPECT_EQ(Column() == nullptr, stay);
+    EXPECT_TRUE(stay || !Column()->Visible());
+    EXPECT_EQ(host->Free() && host->Visible(), stay);
+    EXPECT_TRUE(EditorIsActive());
+    EXPECT_FALSE(state.Sending);
+  }
 }
 
 // The activation must pass over the other windows of the program, which are disabled meanwhile.

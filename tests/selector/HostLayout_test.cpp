@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string_view>
+#include <vector>
+
 #include "selector/WheelGeometry.h"
 
 namespace dorvalin {
@@ -13,6 +16,7 @@ using platform::Size;
 
 constexpr Size kScreen{1024, 768};
 constexpr int kLabelRow = 15;
+constexpr Point kBubbleHalf{16, 16};
 constexpr Size kPanels[] = {{207, 164}, {120, 90}, {300, 220}, {430, 260}};
 
 HostSizes SizesFor(Size panel) { return {.panel = panel, .labelRow = kLabelRow}; }
@@ -20,121 +24,100 @@ HostSizes SizesFor(Size panel) { return {.panel = panel, .labelRow = kLabelRow};
 struct Standing {
   const char* name;
   HostState state;
+  std::string_view buttons;  ///< Close, Right, Free, Menu
 };
 
 const Standing kStandings[] = {
-    {"below the ring", {}},
-    {"above the ring", {.below = true}},
-    {"beside the column", {.vertical = true}},
-    {"free", {.free = true}},
-    {"with a menu", {.hasMenu = true}},
-    {"above, with a menu", {.below = true, .hasMenu = true}},
-    {"beside, with a menu", {.vertical = true, .hasMenu = true}},
-    {"the menu function", {.menuFunction = true}},
+    {"below the ring", {}, "CRF"},
+    {"above the ring", {.below = true}, "CRF"},
+    {"beside the column", {.vertical = true}, "F"},
+    {"free", {.free = true}, "C"},
+    {"with a menu", {.hasMenu = true}, "CRFM"},
+    {"above, with a menu", {.below = true, .hasMenu = true}, "CRFM"},
+    {"beside, with a menu", {.vertical = true, .hasMenu = true}, "FM"},
+    {"the menu function", {.menuFunction = true}, "CR"},
 };
 
-TEST(AHost, GivesItsPanelWhatItWantsWhereverItStands) {
+TEST(AHost, GivesItsPanelWhatItWantsAndLaysNothingOverAnother) {
   for (const Size panel : kPanels) {
     for (const Standing& s : kStandings) {
       SCOPED_TRACE(s.name);
       const HostSizes sizes = SizesFor(panel);
       const Size client = HostSize(sizes, s.state.vertical);
       const HostParts parts = LayOutHost(client, sizes, s.state);
-      const Rect inside = Rect::At({}, client).Grown(-3);
       EXPECT_EQ(parts.panel.Size(), panel);
-      EXPECT_TRUE(inside.Contains(parts.panel));
-      EXPECT_TRUE(inside.Contains(parts.labels));
       EXPECT_EQ(parts.labels.Height(), kLabelRow);
-      EXPECT_TRUE(parts.labels.Intersected(parts.panel).Empty());
+      const auto listed = [&](char button) { return s.buttons.find(button) != s.buttons.npos; };
+      const struct {
+        char name;
+        bool shown;
+        Rect bounds;
+      } buttons[] = {{'C', parts.showClose, parts.btnClose},
+                     {'R', parts.showRight, parts.btnRight},
+                     {'F', listed('F'), parts.btnFree},
+                     {'M', parts.showMenu, parts.btnMenu}};
+      std::vector<Rect> taken = {parts.panel, parts.labels};
+      for (const auto& button : buttons) {
+        EXPECT_EQ(button.shown, listed(button.name)) << button.name;
+        if (!button.shown) continue;
+        EXPECT_EQ(button.bounds.Size(), (Size{17, 17})) << button.name;
+        taken.push_back(button.bounds);
+      }
+      for (std::size_t i = 0; i < taken.size(); ++i) {
+        EXPECT_TRUE(Rect::At({}, client).Grown(-3).Contains(taken[i]));
+        for (std::size_t j = 0; j < i; ++j) EXPECT_TRUE(taken[i].Intersected(taken[j]).Empty());
+      }
     }
   }
 }
 
-TEST(AHost, LaysItsButtonsBesideEachOtherAndOverNothing) {
-  for (const Standing& s : kStandings) {
-    SCOPED_TRACE(s.name);
-    const HostSizes sizes = SizesFor(kPanels[0]);
-    const Size client = HostSize(sizes, s.state.vertical);
-    const HostParts parts = LayOutHost(client, sizes, s.state);
-    std::vector<Rect> shown;
-    if (parts.showClose) shown.push_back(parts.btnClose);
-    if (parts.showRight) shown.push_back(parts.btnRight);
-    if (parts.showMenu) shown.push_back(parts.btnMenu);
-    if (!s.state.free && !s.state.menuFunction) shown.push_back(parts.btnFree);
-    for (std::size_t i = 0; i < shown.size(); ++i) {
-      EXPECT_EQ(shown[i].Size(), (Size{17, 17}));
-      EXPECT_TRUE(Rect::At({}, client).Grown(-3).Contains(shown[i]));
-      EXPECT_TRUE(shown[i].Intersected(parts.panel).Empty());
-      EXPECT_TRUE(shown[i].Intersected(parts.labels).Empty());
-      for (std::size_t j = 0; j < i; ++j) EXPECT_TRUE(shown[i].Intersected(shown[j]).Empty());
-    }
-  }
-}
-
-TEST(AHost, ShowsTheButtonsOfItsPlace) {
+TEST(AHost, OfTheMenuHasTheNextButtonWhereOthersSetFree) {
   const auto parts = [](HostState state) {
     const HostSizes sizes = SizesFor(kPanels[0]);
-    return LayOutHost(HostSize(sizes, state.vertical), sizes, state);
+    return LayOutHost(HostSize(sizes, false), sizes, state);
   };
-  EXPECT_TRUE(parts({}).showClose && parts({}).showRight);
-  EXPECT_FALSE(parts({}).showMenu);
-  EXPECT_FALSE(parts({.vertical = true}).showClose || parts({.vertical = true}).showRight);
-  EXPECT_TRUE(parts({.free = true}).showClose);
-  EXPECT_FALSE(parts({.free = true}).showRight);
-  EXPECT_EQ(parts({.menuFunction = true}).btnRight.right, parts({}).btnFree.right)
-      << "without the free button the next one moves up";
+  EXPECT_EQ(parts({.menuFunction = true}).btnRight, parts({}).btnFree);
 }
 
-TEST(AHost, StandsWhollyOnTheScreenBesideEveryRing) {
+// The bubble of the host lies over the wheel's own, as if it sank into the host's edge.
+TEST(AHost, StandsWhollyOnTheScreenUnderTheBubbleOfEveryRing) {
   for (const Size panel : kPanels) {
     for (int y = 0; y < kScreen.height; y += 7) {
       for (int x = 0; x < kScreen.width; x += 7) {
+        SCOPED_TRACE(testing::Message() << x << ", " << y);
         const RingPlace ring = PlaceRing({x, y}, kScreen);
         const Size size = HostSize(SizesFor(panel), false);
         const Rect host = Rect::At(PlaceAtRing(size, ring.bounds, ring.flipped, kScreen), size);
-        ASSERT_TRUE(Rect::At({}, kScreen).Contains(host)) << x << ", " << y;
-        ASSERT_EQ(host.Intersected(ring.bounds).Height(), 20) << x << ", " << y;
+        ASSERT_TRUE(Rect::At({}, kScreen).Contains(host));
+        ASSERT_EQ(host.Intersected(ring.bounds).Height(), 20);
+        ASSERT_TRUE(host.left == 0 || host.right == kScreen.width ||
+                    host.Middle().x == ring.bounds.Middle().x);
+        const Point bubble = RingPlaces(kRestRadius, TargetRotation(3, ring.flipped))[2];
+        const HostState state{.below = ring.flipped};
+        ASSERT_EQ(host.Origin() + BubbleInHost(host, ring.bounds, bubble.y, state),
+                  ring.bounds.Origin() + bubble - kBubbleHalf);
       }
     }
   }
 }
 
-TEST(AHost, StandsWhollyOnTheScreenBesideEveryBubbleOfTheColumn) {
+TEST(AHost, StandsWhollyOnTheScreenUnderEveryBubbleOfTheColumn) {
   for (const Size screen : {kScreen, Size{800, 600}, Size{640, 480}}) {
     const Rect column = PlaceColumn(screen);
     for (const Size panel : kPanels) {
-      for (const Point bubble : ColumnPlaces(0, {})) {
+      for (int function = 1; function <= kFunctionCount; ++function) {
+        SCOPED_TRACE(function);
+        const Point bubble = ColumnPlaces(function, {})[function - 1];
         const Size size = HostSize(SizesFor(panel), true);
         const Rect host = Rect::At(PlaceAtColumn(size, column, bubble.y, screen), size);
-        EXPECT_TRUE(Rect::At({}, screen).Contains(host)) << bubble.y;
+        EXPECT_TRUE(Rect::At({}, screen).Contains(host));
         EXPECT_EQ(host.right, column.left + 17);
         EXPECT_GE(host.top, column.top - 25);
         EXPECT_TRUE(host.bottom <= column.bottom + 75 || host.top == column.top - 25);
+        EXPECT_EQ(host.Origin() + BubbleInHost(host, column, bubble.y, {.vertical = true}),
+                  column.Origin() + bubble - kBubbleHalf);
       }
     }
-  }
-}
-
-TEST(TheBubble, LiesOverTheWheelsOwnWhereverTheHostStands) {
-  const HostSizes sizes = SizesFor(kPanels[2]);
-  for (const Point pointer : {Point{512, 200}, {0, 0}, {1023, 100}, {1023, 767}, {300, 767}}) {
-    const RingPlace ring = PlaceRing(pointer, kScreen);
-    const HostState state{.below = ring.flipped};
-    const Size size = HostSize(sizes, false);
-    const Rect host = Rect::At(PlaceAtRing(size, ring.bounds, ring.flipped, kScreen), size);
-    const Point centre = RingPlaces(43, TargetRotation(3, ring.flipped))[2];
-    const Point onRing = ring.bounds.Origin() + centre - Point{16, 16};
-    const Point onHost = host.Origin() + BubbleInHost(host, ring.bounds, centre.y, state);
-    EXPECT_EQ(onHost, onRing);
-  }
-  const Rect column = PlaceColumn(kScreen);
-  for (int function = 1; function <= kFunctionCount; ++function) {
-    const Point centre = ColumnPlaces(function, {})[function - 1];
-    const Size size = HostSize(sizes, true);
-    const Rect host = Rect::At(PlaceAtColumn(size, column, centre.y, kScreen), size);
-    const HostState state{.vertical = true};
-    const Point onColumn = column.Origin() + centre - Point{16, 16};
-    EXPECT_EQ(host.Origin() + BubbleInHost(host, column, centre.y, state), onColumn);
   }
 }
 

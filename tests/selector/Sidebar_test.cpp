@@ -37,32 +37,27 @@ class AtTheSidebar : public WithProgram {
   FakePanel::Record record;
 };
 
-TEST_F(AtTheSidebar, AtOnceOpensOnContact) {
-  StartIn(0);
-  user.MoveTo(kEdge);
-  EXPECT_TRUE(ColumnIsSeen());
+TEST_F(AtTheSidebar, AClickOfAnyButtonOpensItInEveryMode) {
+  for (const int mode : {0, 1, 2}) {
+    for (const Button button : {Button::Left, Button::Right, Button::Middle}) {
+      Program p;
+      p.Store(u"RightBarMode", mode);
+      // There already when the edge appears: contact would open it.
+      p.user.MoveTo(kEdge);
+      ASSERT_EQ(p.Start(), StartVerdict::Resident);
+      p.user.Press(button);
+      EXPECT_EQ(p.Column(), nullptr) << mode;
+      p.user.Release(button);
+      EXPECT_NE(p.Column(), nullptr) << mode;
+    }
+  }
 }
 
-TEST_F(AtTheSidebar, OnClickOpensOnAClickAlone) {
+TEST_F(AtTheSidebar, ContactAloneOpensNothingWhereAClickIsWanted) {
   StartIn(1);
   user.MoveTo(kEdge);
   user.Wait(1000ms);
   EXPECT_EQ(Column(), nullptr);
-  user.Click(kEdge);
-  EXPECT_TRUE(ColumnIsSeen());
-}
-
-TEST_F(AtTheSidebar, EveryModeOpensOnAClickOfAnyButton) {
-  for (const Button button : {Button::Left, Button::Right, Button::Middle}) {
-    Program other;
-    other.Store(u"RightBarMode", 2);
-    ASSERT_EQ(other.Start(), StartVerdict::Resident);
-    other.user.MoveTo(kEdge);
-    other.user.Press(button);
-    EXPECT_EQ(other.Column(), nullptr);
-    other.user.Release(button);
-    EXPECT_NE(other.Column(), nullptr);
-  }
 }
 
 TEST_F(AtTheSidebar, DelayedOpensOnlyForAPointerThatStays) {
@@ -204,20 +199,6 @@ TEST_F(AtTheSidebar, APointerThatLeavesWhileItSlidesInEndsItWithoutAWord) {
   EXPECT_FALSE(ColumnIsSeen());
 }
 
-TEST_F(AtTheSidebar, ChoosesABubbleBySlidingIt) {
-  StartIn(0);
-  user.MoveTo(kEdge);
-  user.Click(Bubble(*Column(), u"Rechner"));
-  EXPECT_EQ(Column()->ActiveBubble, 3);
-  EXPECT_EQ(Column()->BubbleCentre(3).x, 16);
-  EXPECT_EQ(Column()->BubbleCentre(2).x, 26);
-  EXPECT_EQ(Host()->Index(), 3);
-  user.Type(u"6*7\r\r");
-  EXPECT_EQ(editor.Text(), u"42");
-  EXPECT_TRUE(EditorIsActive());
-  EXPECT_FALSE(ColumnIsSeen());
-}
-
 TEST_F(AtTheSidebar, ADragToTheEdgeOpensItInEveryMode) {
   StartIn(1);
   editor.SetText(u"Text");
@@ -231,37 +212,25 @@ TEST_F(AtTheSidebar, ADragToTheEdgeOpensItInEveryMode) {
 }
 
 TEST_F(AtTheSidebar, TakesThePanelOverFromTheRing) {
-  for (const bool columnThere : {false, true}) {
-    SCOPED_TRACE(columnThere);
-    Program p;
-    p.Store(u"ShowRightBarAtStart", columnThere);
-    p.Store(u"RightBarMode", 0);
-    ASSERT_EQ(p.Start(), StartVerdict::Resident);
-    if (columnThere) {
-      p.OpenSidebar();
-      p.user.MoveTo(p.editor.Middle());
-      p.user.Wait(500ms);
-      ASSERT_NE(p.Column(), nullptr);
-    }
-    p.OpenPanel(u"Rechner");
-    frmMenu* host = p.Host();
-    p.user.Type(u"7*7");
-    p.ClickHostButton(*host, u"An Bildschirmrand");
-    EXPECT_EQ(p.Ring(), nullptr);
-    ASSERT_NE(p.Column(), nullptr);
-    EXPECT_EQ(p.Column()->Host, host);
-    EXPECT_EQ(p.Hosts().size(), 1u);
-    EXPECT_EQ(p.Column()->ActiveBubble, 3);
-    EXPECT_TRUE(host->Vertical() && host->Visible() && p.Column()->Visible());
-    EXPECT_TRUE(p.state.SidebarOn);
-    EXPECT_EQ(NodesOf<platform::MemoryTextBox>(host->Window())[0]->Text(), u"7×7");
-    EXPECT_EQ(host->Window().Bounds().right, p.Column()->Window().Bounds().left + 17);
-    p.user.MoveTo(host->Window().Bounds().Middle());
-    p.user.Wait(50ms);
-    p.user.MoveTo(p.editor.Middle());
-    p.user.Wait(500ms);
-    EXPECT_FALSE(p.Column()->Visible()) << "the column watches the pointer from now on";
-  }
+  Store(u"ShowRightBarAtStart", 0);
+  StartIn(0);
+  OpenPanel(u"Rechner");
+  frmMenu* host = Host();
+  user.Type(u"7*7");
+  ClickHostButton(*host, u"An Bildschirmrand");
+  EXPECT_EQ(Ring(), nullptr);
+  ASSERT_NE(Column(), nullptr);
+  EXPECT_EQ(Column()->Host, host);
+  EXPECT_EQ(Hosts().size(), 1u);
+  EXPECT_EQ(Column()->ActiveBubble, 3);
+  EXPECT_TRUE(host->Vertical() && host->Visible() && Column()->Visible());
+  EXPECT_TRUE(state.SidebarOn);
+  EXPECT_EQ(NodesOf<platform::MemoryTextBox>(host->Window())[0]->Text(), u"7×7");
+  EXPECT_EQ(host->Window().Bounds().right, Column()->Window().Bounds().left + 17);
+  user.MoveTo(host->Window().Bounds().Middle());
+  user.Wait(50ms);
+  Leave();
+  EXPECT_FALSE(ColumnIsSeen()) << "the column watches the pointer from now on";
 }
 
 // The bubbles of a ring near the edge once stayed behind the column as a copy.
@@ -293,13 +262,19 @@ TEST_F(AtTheSidebar, ThatWasVisitedBeforePutsAPanelThatIsHandedOverAwayAtTheEdge
   EXPECT_TRUE(EditorIsActive());
   user.MoveTo(kEdge);
   EXPECT_TRUE(ColumnIsSeen() && host->Visible());
+  EXPECT_EQ(Column()->Host, host);
+  EXPECT_EQ(Column()->ActiveBubble, 3);
+  EXPECT_EQ(Hosts().size(), 1u);
 }
 
-TEST_F(AtTheSidebar, SetFreeThePanelStaysInPlaceAndTheColumnGoes) {
+TEST_F(AtTheSidebar, ThePanelOfAnotherBubbleStaysInPlaceWhenItIsSetFree) {
   StartIn(0);
   user.MoveTo(kEdge);
   user.Click(Bubble(*Column(), u"Rechner"));
+  EXPECT_EQ(Column()->BubbleCentre(3).x, 16) << "it slid toward the host";
+  EXPECT_EQ(Column()->BubbleCentre(2).x, 26);
   frmMenu& host = *Host();
+  EXPECT_EQ(host.Index(), 3);
   const auto panelAt = [&] {
     return NodesOf<platform::MemoryTextBox>(host.Window())[0]->OnScreen();
   };
@@ -311,7 +286,7 @@ TEST_F(AtTheSidebar, SetFreeThePanelStaysInPlaceAndTheColumnGoes) {
   EXPECT_EQ(panelAt(), before);
 }
 
-TEST_F(AtTheSidebar, NotesAreToldThatTheyAreShownAgain) {
+TEST_F(AtTheSidebar, ItsPanelIsToldThatItIsShownAgainAndHasItsMenuBesideTheButton) {
   RegSetLong(kProgramKey, u"LastFunction", 8);
   StartIn(0);
   user.MoveTo(kEdge);
@@ -320,18 +295,11 @@ TEST_F(AtTheSidebar, NotesAreToldThatTheyAreShownAgain) {
   Leave();
   user.MoveTo(kEdge);
   EXPECT_EQ(record.shownAgain, 1);
-}
-
-TEST_F(AtTheSidebar, ItsMenuStandsBesideTheButton) {
-  RegSetLong(kProgramKey, u"LastFunction", 8);
-  StartIn(0);
-  user.MoveTo(kEdge);
-  frmMenu& host = *Host();
-  ClickHostButton(host, u"Menü");
+  ClickHostButton(*Host(), u"Menü");
   ASSERT_EQ(record.menusAt.size(), 1u);
   // The panel's width, the buttons' column less 5; the button's lower edge and 1.
   const Point inHost{3 + 207 + 18 - 5, 3 + (3 + 18 + 17) + 1};
-  EXPECT_EQ(record.menusAt[0], host.Window().Bounds().Origin() + inHost);
+  EXPECT_EQ(record.menusAt[0], Host()->Window().Bounds().Origin() + inHost);
 }
 
 TEST_F(AtTheSidebar, SwitchedOffNothingOfItStays) {
