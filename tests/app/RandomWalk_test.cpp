@@ -83,36 +83,19 @@ class Walk : public RestingProgram {
   explicit Walk(unsigned seed) : random_(seed) {}
 
   void Step() {
-    switch (Below(16)) {
-      case 0:
-      case 1:
-        return Gesture();
-      case 2:
-      case 3:
-      case 4:
-      case 5:
-        return user.Click(Somewhere(), AButton());
-      case 6:
-        return user.MoveTo(Somewhere());
-      case 7:
-        return user.Drag(Somewhere(), Somewhere());
-      case 8:
-        return user.Type(kTyped[Below(std::size(kTyped))]);
-      case 9:
-        return user.Key(platform::key::kF1, {.shift = Below(2) == 0});
-      case 10:
-        return user.Wait(std::chrono::milliseconds(Below(700)));
-      case 11:
-        return ChangeASetting();
-      case 12:
-        return ChangeTheForeground();
-      case 13:
-        return AnswerAMenu();
-      case 14:
-        return PressInARow();
-      default:
-        return Deliver();
-    }
+    const auto act = Below(16);
+    if (act < 2) return Gesture();
+    if (act < 6) return user.Click(Somewhere(), AButton());
+    if (act == 6) return user.MoveTo(Somewhere());
+    if (act == 7) return user.Drag(Somewhere(), Somewhere());
+    if (act == 8) return user.Type(kTyped[Below(std::size(kTyped))]);
+    if (act == 9) return user.Key(platform::key::kF1, {.shift = Below(2) == 0});
+    if (act == 10) return user.Wait(std::chrono::milliseconds(Below(700)));
+    if (act == 11) return ChangeASetting();
+    if (act == 12) return ChangeTheForeground();
+    if (act == 13) return AnswerAMenu();
+    if (act == 14) return PressInARow();
+    Deliver();
   }
 
   std::size_t Below(std::size_t limit) { return random_() % limit; }

@@ -54,12 +54,6 @@ TEST_F(TheTaskMenu, AltF4BehindItEndsNothing) {
   EXPECT_NE(Ring(), nullptr);
 }
 
-TEST_F(TheTaskMenu, ALeftClickOpensTheWheel) {
-  desktop.taskBar().Happens(TaskBarEvent::LeftUp);
-  user.Wait(0ms);
-  EXPECT_NE(Ring(), nullptr);
-}
-
 TEST_F(TheTaskMenu, TheIconGoesAndComesWithoutDoubles) {
   frmEmpty& form = *frmEmpty::Instance();
   form.AddTBIcon();
@@ -111,6 +105,9 @@ TEST_F(APanelsMenu, DoesNothingWhenThePanelWentMeanwhile) {
   Choose(u"Eingeben");
   EXPECT_TRUE(record.called.empty());
   EXPECT_EQ(record.closed, 1);
+  EXPECT_TRUE(Hosts().empty());
+  EXPECT_FALSE(state.PopupOpen);
+  EXPECT_EQ(Floors().CurrentPanelForm, nullptr);
 }
 
 TEST_F(APanelsMenu, SetsTheHostFreeBeforeADialog) {
