@@ -123,23 +123,13 @@ TEST_F(Gestures, OnlyTheTwoEndsOfTheTravelCount) {
   EXPECT_EQ(FiringTicks(kAll, 1), Ticks{1});
 }
 
-TEST_F(Gestures, APressBetweenTwoTicksLeavesNoTrace) {
+TEST_F(Gestures, ShortPressesLeaveNoTrace) {
   for (int n = 0; n < 10; ++n) {
     input.down = {Button::Left, Button::Right, Button::Middle};
+    EXPECT_EQ(FiringTicks(kAll, n % 2), Ticks{}) << "one tick sees it, or none";
     input.down.clear();
     EXPECT_EQ(FiringTicks(kAll, 1), Ticks{});
-  }
-  EXPECT_EQ(gestures.MiddleCount, 0);
-  EXPECT_EQ(gestures.BothCount, 0);
-}
-
-TEST_F(Gestures, AGestureThatIsOffNeverFires) {
-  for (const HoldCase& c : kHolds) {
-    SCOPED_TRACE(c.name);
-    Settings settings{.MiddleBtn = false, .BothBtn = false, .ScrollKey = false};
-    input.down = c.buttons;
-    input.scrollDown = true;
-    EXPECT_EQ(FiringTicks(settings, 20), Ticks{});
+    EXPECT_EQ(gestures.MiddleCount, 0);
   }
 }
 
