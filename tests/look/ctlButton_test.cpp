@@ -17,11 +17,9 @@ class AButton : public LookTest {
  protected:
   static constexpr Rect kPlace{20, 20, 100, 45};
 
-  AButton() { Listen(button); }
-
-  void Listen(ctlButton& to) {
-    to.Click = [this] { log += "Click "; };
-    to.Down = [this] { log += "Down "; };
+  AButton() {
+    button.Click = [this] { log += "Click "; };
+    button.Down = [this] { log += "Down "; };
   }
   Point Middle() const { return OnScreen(kPlace).Middle(); }
   Point Outside() const { return OnScreen(kPlace).Origin() - Point{5, 5}; }
@@ -50,14 +48,19 @@ class AButton : public LookTest {
   std::string log;
 };
 
-TEST_F(AButton, ClicksWhenPressedAndReleasedOverIt) {
+TEST_F(AButton, LightsUpUnderThePointerAndClicksWhenReleasedThere) {
+  EXPECT_TRUE(ShowsCell(90));
   user.MoveTo(Middle());
+  EXPECT_TRUE(ShowsCell(0));
   user.Press();
   EXPECT_EQ(log, "Down ");
   EXPECT_TRUE(ShowsCell(30));
   user.Release();
   EXPECT_EQ(log, "Down Click ");
   EXPECT_TRUE(ShowsCell(0));
+  user.MoveTo(Outside());
+  user.Wait(20ms);
+  EXPECT_TRUE(ShowsCell(90));
 }
 
 TEST_F(AButton, DoesNothingWhenReleasedOutside) {
@@ -71,15 +74,6 @@ TEST_F(AButton, DoesNothingWhenReleasedOutside) {
   user.Release();
   EXPECT_EQ(log, "Down ");
   EXPECT_FALSE(button.Pressed);
-}
-
-TEST_F(AButton, LightsUpUnderThePointerUntilItLeaves) {
-  EXPECT_TRUE(ShowsCell(90));
-  user.MoveTo(Middle());
-  EXPECT_TRUE(ShowsCell(0));
-  user.MoveTo(Outside());
-  user.Wait(20ms);
-  EXPECT_TRUE(ShowsCell(90));
 }
 
 TEST_F(AButton, TakesSpaceAndEnter) {

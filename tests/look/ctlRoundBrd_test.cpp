@@ -54,7 +54,6 @@ TEST_F(RoundBorder, IsARectangleWithSharpCornersOnAScreenOfFewColours) {
 }
 
 TEST_F(RoundBorder, FollowsItsSizeAlsoWhenThatChangedUnseen) {
-  ctlRoundBrd border(*window, {10, 10, 130, 110});
   desktop.screen().SetDepth(8);
   ctlRoundBrd sharp(*window, {10, 10, 130, 110});
   sharp.Window()->SetBounds({10, 10, 80, 80});

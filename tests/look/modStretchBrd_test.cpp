@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 #include "platform/drawing.h"
@@ -36,17 +37,19 @@ std::string Along(const Surface& surface, platform::Point from, platform::Point 
     };
     ++run;
     if (i + 1 < count && letterAt(i + 1) == letterAt(i)) continue;
-    met += letterAt(i) + std::to_string(run) + " ";
+    if (!met.empty()) met += ' ';
+    met += letterAt(i) + std::to_string(run);
     run = 0;
   }
   return met;
 }
 
+constexpr BorderCells kSkin{10, 10, 11, 11}, kNoTop{10, 0, 11, 11}, kNone{0, 0, 0, 0};
+
 struct StretchCase {
   const char* label;
   platform::Size size;
-  BorderCells cells;  ///< left, top, right, bottom
-  bool drawCentre;
+  BorderCells cells;     ///< left, top, right, bottom
   const char* firstRow;  ///< from the left border of the area to its right border
   const char* middleRow;
   const char* firstColumn;
@@ -54,87 +57,56 @@ struct StretchCase {
 };
 
 const StretchCase kCases[] = {
-    {"corners keep their size, the rest stretches",
-     {40, 50},
-     {10, 10, 11, 11},
-     true,
-     "a10 b19 c11 ",
-     "d10 e19 f11 ",
-     "a10 d29 g11 ",
-     false},
-    {"without its centre the frame leaves what is under it",
-     {40, 50},
-     {10, 10, 11, 11},
-     false,
-     "a10 b19 c11 ",
-     "d10 .19 f11 ",
-     "a10 d29 g11 ",
-     false},
-    {"too narrow: both borders shrink in proportion",
-     {15, 50},
-     {10, 10, 11, 11},
-     true,
-     "a7 c8 ",
-     "d7 f8 ",
-     "a10 d29 g11 ",
-     true},
-    {"too low as well", {15, 15}, {10, 10, 11, 11}, true, "a7 c8 ", "g7 i8 ", "a7 g8 ", true},
-    {"as wide as both borders: no edges above and below, no centre",
-     {21, 50},
-     {10, 10, 11, 11},
-     true,
-     "a10 c11 ",
-     "d10 f11 ",
-     "a10 d29 g11 ",
-     true},
-    {"a left border as wide as the height leaves no centre",
-     {60, 21},
-     {10, 0, 11, 11},
-     true,
-     "d10 .39 f11 ",
-     "g10 h39 i11 ",
-     "d10 g11 ",
-     true},
-    {"one pixel higher it is there",
-     {60, 22},
-     {10, 0, 11, 11},
-     true,
-     "d10 e39 f11 ",
-     "g10 h39 i11 ",
-     "d11 g11 ",
-     false},
-    {"no borders: all is centre", {30, 20}, {0, 0, 0, 0}, true, "e30 ", "e30 ", "e20 ", false},
-    {"one pixel wide", {1, 30}, {10, 10, 11, 11}, true, "c1 ", "f1 ", "c10 f9 i11 ", true},
+    {"roomy", {40, 50}, kSkin, "a10 b19 c11", "d10 e19 f11", "a10 d29 g11", false},
+    // Borders shrink in proportion.
+    {"too narrow", {15, 50}, kSkin, "a7 c8", "d7 f8", "a10 d29 g11", true},
+    {"too low as well", {15, 15}, kSkin, "a7 c8", "g7 i8", "a7 g8", true},
+    // No edges above and below, and no centre.
+    {"wide as both borders", {21, 50}, kSkin, "a10 c11", "d10 f11", "a10 d29 g11", true},
+    // The left border is measured against the height.
+    {"low, without a top", {60, 21}, kNoTop, "d10 .39 f11", "g10 h39 i11", "d10 g11", true},
+    {"one pixel higher", {60, 22}, kNoTop, "d10 e39 f11", "g10 h39 i11", "d11 g11", false},
+    {"all is centre", {30, 20}, kNone, "e30", "e30", "e20", false},
+    {"one pixel wide", {1, 30}, kSkin, "c1", "f1", "c10 f9 i11", true},
 };
+
+/// As met along a line when the centre is not drawn: what lay under it stays.
+std::string WithoutCentre(std::string met) {
+  std::ranges::replace(met, 'e', '.');
+  return met;
+}
 
 TEST(StretchBorder, CutsAndStretches) {
   for (const StretchCase& c : kCases) {
     SCOPED_TRACE(c.label);
     const Surface picture = Lettered({81, 81}, c.cells);
-    Surface drawn({c.size.width + 2 * kMargin, c.size.height + 2 * kMargin});
     const Rect area = Rect::At({kMargin, kMargin}, c.size);
-    EXPECT_EQ(StretchBorder(drawn, area, picture, picture.Area(), c.cells,
-                            platform::RasterOp::SrcCopy, c.drawCentre),
-              c.centreFellAway);
-    EXPECT_EQ(Along(drawn, area.Origin(), {1, 0}, c.size.width), c.firstRow);
-    EXPECT_EQ(Along(drawn, {kMargin, area.Middle().y}, {1, 0}, c.size.width), c.middleRow);
-    EXPECT_EQ(Along(drawn, area.Origin(), {0, 1}, c.size.height), c.firstColumn);
-    const std::string outside = "." + std::to_string(drawn.Width()) + " ";
-    EXPECT_EQ(Along(drawn, {0, kMargin - 1}, {1, 0}, drawn.Width()), outside);
-    EXPECT_EQ(Along(drawn, {0, area.bottom}, {1, 0}, drawn.Width()), outside);
+    for (const bool centre : {true, false}) {
+      Surface drawn({c.size.width + 2 * kMargin, c.size.height + 2 * kMargin});
+      const bool fellAway = StretchBorder(drawn, area, picture, picture.Area(), c.cells,
+                                          platform::RasterOp::SrcCopy, centre);
+      EXPECT_EQ(fellAway, c.centreFellAway);
+      const auto expected = [&](const char* met) { return centre ? met : WithoutCentre(met); };
+      EXPECT_EQ(Along(drawn, area.Origin(), {1, 0}, c.size.width), expected(c.firstRow));
+      EXPECT_EQ(Along(drawn, {kMargin, area.Middle().y}, {1, 0}, c.size.width),
+                expected(c.middleRow));
+      EXPECT_EQ(Along(drawn, area.Origin(), {0, 1}, c.size.height), expected(c.firstColumn));
+      const std::string outside = "." + std::to_string(drawn.Width());
+      EXPECT_EQ(Along(drawn, {0, kMargin - 1}, {1, 0}, drawn.Width()), outside);
+      EXPECT_EQ(Along(drawn, {0, area.bottom}, {1, 0}, drawn.Width()), outside);
+    }
   }
 }
 
 TEST(StretchBorder, DrawsNothingWithoutRoom) {
-  const BorderCells cells{10, 10, 11, 11};
-  const Surface picture = Lettered({81, 81}, cells);
+  const Surface picture = Lettered({81, 81}, kSkin);
   for (const platform::Size size :
        {platform::Size{0, 0}, {0, 20}, {20, 0}, {-5, 30}, {30, -5}, {-40, -40}}) {
     Surface drawn({60, 60});
-    StretchBorder(drawn, Rect::At({30, 30}, size), picture, picture.Area(), cells,
+    StretchBorder(drawn, Rect::At({30, 30}, size), picture, picture.Area(), kSkin,
                   platform::RasterOp::SrcCopy, true);
     for (int y = 0; y < 60; ++y)
-      EXPECT_EQ(Along(drawn, {0, y}, {1, 0}, 60), ".60 ") << size.width << " x " << size.height;
+      EXPECT_EQ(Along(drawn, {0, y}, {1, 0}, 60), ".60") << size.width << " x " << size.height;
   }
 }
 
