@@ -1,6 +1,6 @@
 #include "tests/support/User.h"
 
-#include <cstdlib>
+#include <map>
 #include <utility>
 
 #include "platform/Form.h"
@@ -27,43 +27,18 @@ struct KeyOnBoard {
 };
 
 KeyOnBoard KeyFor(char16_t unit) {
+  static const std::map<char16_t, KeyOnBoard> kSigns = {
+      {u'+', {0xBB, false}}, {u'*', {0xBB, true}}, {u',', {0xBC, false}}, {u';', {0xBC, true}},
+      {u'-', {0xBD, false}}, {u'_', {0xBD, true}}, {u'.', {0xBE, false}}, {u':', {0xBE, true}},
+      {u'(', {'8', true}},   {u')', {'9', true}},  {u'/', {'7', true}},   {u'=', {'0', true}}};
+  constexpr std::u16string_view kOwnNumber =
+      u"\r\t\b \x1B"
+      "0123456789";
+  if (const auto sign = kSigns.find(unit); sign != kSigns.end()) return sign->second;
+  if (kOwnNumber.find(unit) != kOwnNumber.npos) return {unit, false};
   const char16_t upper = platform::UpperUnit(unit);
   if (upper >= u'A' && upper <= u'Z') return {upper, unit == upper};
-  if (unit >= u'0' && unit <= u'9') return {unit, false};
-  switch (unit) {
-    case u'\r':
-    case u'\t':
-    case u'\b':
-    case u' ':
-    case 27:
-      return {unit, false};
-    case u'+':
-      return {0xBB, false};
-    case u'*':
-      return {0xBB, true};
-    case u',':
-      return {0xBC, false};
-    case u';':
-      return {0xBC, true};
-    case u'-':
-      return {0xBD, false};
-    case u'_':
-      return {0xBD, true};
-    case u'.':
-      return {0xBE, false};
-    case u':':
-      return {0xBE, true};
-    case u'(':
-      return {'8', true};
-    case u')':
-      return {'9', true};
-    case u'/':
-      return {'7', true};
-    case u'=':
-      return {'0', true};
-    default:
-      return {kSignKey, unit != platform::LowerUnit(unit)};
-  }
+  return {kSignKey, unit != platform::LowerUnit(unit)};
 }
 
 }  // namespace
@@ -109,11 +84,6 @@ void User::Click(const platform::Window& window, Button button) {
   Click(window.ScreenBounds().Middle(), button);
 }
 
-void User::DoubleClick(Point p) {
-  Click(p);
-  Click(p);
-}
-
 void User::Drag(Point from, Point to) {
   MoveTo(from);
   const Point way = to - from;
@@ -125,11 +95,6 @@ void User::Drag(Point from, Point to) {
   Later(end, [this] { desktop_.input().HandReleases(Button::Left); });
   Press(Button::Left);
   Wait(end);
-}
-
-void User::Wheel(int notches) {
-  desktop_.input().HandTurnsWheel(notches);
-  Settle();
 }
 
 void User::Stroke(int virtualKey, char16_t unit) {

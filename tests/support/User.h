@@ -33,10 +33,8 @@ class User {
   void Click(platform::Point p, platform::Button button = platform::Button::Left);
   /// In the window's middle.
   void Click(const platform::Window& window, platform::Button button = platform::Button::Left);
-  void DoubleClick(platform::Point p);
   /// Presses the left button, moves in small steps and releases.
   void Drag(platform::Point from, platform::Point to);
-  void Wheel(int notches);
 
   /// Line ends, tabs, backspaces and escapes are their keys.
   void Type(std::u16string_view text);
