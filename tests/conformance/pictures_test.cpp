@@ -32,13 +32,10 @@ TEST_F(InPictures, ABitmapIsReadPixelByPixel) {
   EXPECT_EQ(picture->At(Point{0, 1}) & 0xFFFFFF, 0x445566u);
 }
 
-TEST_F(InPictures, ABitmapThatBreaksOffIsNone) {
+TEST_F(InPictures, WhatIsNoWholeBitmapIsNone) {
   for (std::size_t length = 0; length < kBitmap.size(); ++length) {
     EXPECT_FALSE(Load(std::string_view(kBitmap).substr(0, length))) << length;
   }
-}
-
-TEST_F(InPictures, AnythingElseIsNone) {
   EXPECT_FALSE(Load("kein Bild, nur Text"));
   EXPECT_FALSE(desktop().pictures().Load(u"C:\\fehlt.bmp"));
 }

@@ -143,13 +143,8 @@ TEST(Drawing, IconsAreMixedByTheirAlphaAndStretched) {
   DrawIcon(s, {1, 0}, icon, {4, 2});
   DrawIcon(s, {0, 0}, nullptr, {4, 2});
   DrawIcon(s, {0, 0}, icon, {0, 2});
-  for (int y = 0; y < 2; ++y) {
-    EXPECT_EQ(s.At({0, y}), 0u);
-    EXPECT_EQ(s.At({1, y}), 0x112233u);
-    EXPECT_EQ(s.At({2, y}), 0x112233u);
-    EXPECT_EQ(s.At({3, y}), 0x808080u);
-    EXPECT_EQ(s.At({4, y}), 0x808080u);
-  }
+  const std::vector<Pixel> kRow{0, 0x112233, 0x112233, 0x808080, 0x808080};
+  for (int y = 0; y < 2; ++y) EXPECT_EQ(std::vector(s.Row(y), s.Row(y) + 5), kRow);
 }
 
 }  // namespace

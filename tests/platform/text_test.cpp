@@ -5,25 +5,6 @@
 namespace platform {
 namespace {
 
-TEST(Text, EveryByteHasACharacterThatLeadsBackToIt) {
-  std::string bytes;
-  for (int byte = 0; byte < 256; ++byte) bytes.push_back(static_cast<char>(byte));
-  const auto text = FromWindows1252(bytes);
-  ASSERT_EQ(text.size(), bytes.size());
-  EXPECT_EQ(ToWindows1252(text), bytes);
-  EXPECT_EQ(text[0x80], u'€');
-  EXPECT_EQ(text[0x81], u'\x81');
-  EXPECT_EQ(text[0x9F], u'Ÿ');
-  EXPECT_EQ(text[0xE4], u'ä');
-}
-
-TEST(Text, ACharacterOutsideThePageBecomesOneQuestionMark) {
-  EXPECT_EQ(ToWindows1252(u"Ж😀ß"), "??\xDF");
-  EXPECT_EQ(ToWindows1252(u"\xD83D"
-                          u"a\xDE00"),
-            "?a?");
-}
-
 TEST(Text, LettersFindTheirOtherCaseAndBack) {
   const std::pair<char16_t, char16_t> letters[] = {
       {u'A', u'a'}, {u'Ä', u'ä'}, {u'Ÿ', u'ÿ'}, {u'Œ', u'œ'}, {u'Ň', u'ň'}, {u'Ž', u'ž'},
