@@ -2,15 +2,13 @@
 
 #include <algorithm>
 
+#include "platform/keystrokes.h"
+
 namespace conformance {
 namespace {
 
 constexpr auto kStep = 30ms;
 constexpr int kDragSteps = 12;
-
-std::string NameOf(Button button) {
-  return button == Button::Left ? "left" : button == Button::Right ? "right" : "middle";
-}
 
 }  // namespace
 
@@ -18,15 +16,23 @@ int Listener::Count(const std::string& what) const {
   return static_cast<int>(std::count(log.begin(), log.end(), what));
 }
 
-void Listener::OnMouseDown(Button button, const platform::MouseEvent& event) {
+void Listener::LogButton(Button button, const char* what, const platform::MouseEvent& event) {
+  const char* kNames[] = {"left ", "right ", "middle "};
+  log.push_back(std::string(kNames[static_cast<int>(button)]) + what);
   lastMouse = event;
-  log.push_back(NameOf(button) + " down");
+}
+
+void Listener::OnMouseDown(Button button, const platform::MouseEvent& event) {
+  LogButton(button, "down", event);
   if (const auto act = onMouseDown) act();
 }
 
 void Listener::OnMouseUp(Button button, const platform::MouseEvent& event) {
-  lastMouse = event;
-  log.push_back(NameOf(button) + " up");
+  LogButton(button, "up", event);
+}
+
+void Listener::OnDoubleClick(Button button, const platform::MouseEvent& event) {
+  LogButton(button, "double", event);
 }
 
 void Listener::OnMouseMove(const platform::MouseEvent& event) {
@@ -34,14 +40,14 @@ void Listener::OnMouseMove(const platform::MouseEvent& event) {
   if (const auto act = onMouseMove) act();
 }
 
-void Listener::OnDoubleClick(Button button, const platform::MouseEvent& event) {
-  lastMouse = event;
-  log.push_back(NameOf(button) + " double");
-}
-
 void Listener::OnMouseWheel(int notches, const platform::MouseEvent& event) {
   lastMouse = event;
   log.push_back("wheel " + std::to_string(notches));
+}
+
+void Listener::OnPreviewKey(platform::KeyEvent& event, platform::Window* focused) {
+  previewed.emplace_back(event.virtualKey, focused);
+  event.handled = event.virtualKey == keyToTake;
 }
 
 void Listener::OnKeyDown(platform::KeyEvent& event) {
@@ -70,8 +76,27 @@ std::unique_ptr<TopWindow> Conformance::NewWindow(Listener& listener, const Rect
   platform::TopWindowOptions options;
   options.owner = owner;
   auto window = desktop().windows().NewTopWindow(options, listener);
-  if (window) window->SetBounds(bounds);
+  window->SetBounds(bounds);
   return window;
+}
+
+std::unique_ptr<TopWindow> Conformance::NewDialog(Listener& listener, const Rect& bounds) {
+  auto window = desktop().windows().NewTopWindow(
+      {.frame = platform::FrameStyle::Dialog, .caption = u"Dialog"}, listener);
+  window->SetBounds(bounds);
+  return window;
+}
+
+void Conformance::Activate(TopWindow& window) {
+  window.Show(ShowMode::Activate);
+  EXPECT_TRUE(HasForeground(window));
+  Settle();
+}
+
+std::unique_ptr<OtherProgram> Conformance::StartOther() {
+  auto other = under().Start(kTheirs);
+  EXPECT_TRUE(OtherHasForeground());
+  return other;
 }
 
 bool Conformance::Until(const std::function<bool()>& condition, std::chrono::milliseconds time) {
@@ -93,40 +118,45 @@ bool Conformance::HasForeground(const TopWindow& window) {
   return Until([&] { return desktop().windows().ForegroundWindow().ours == &window; });
 }
 
-bool Conformance::OtherHolds(OtherProgram& other, const std::u16string& text) {
-  return Until([&] { return other.Text() == text; });
+testing::AssertionResult Conformance::OtherHolds(OtherProgram& other, const std::u16string& text) {
+  if (Until([&] { return other.Text() == text; })) return testing::AssertionSuccess();
+  return testing::AssertionFailure() << "it holds " << platform::ToUtf8(other.Text());
 }
 
 void Conformance::PointAt(Point p) {
   // A display may still be telling of an earlier move, which takes the pointer back.
-  const auto stands = [&] { return desktop().input().PointerPosition() == p; };
   for (int n = 0; n < 20; ++n) {
     under().MoveTo(p);
     under().Pump(50ms);
-    if (stands()) return;
+    if (desktop().input().PointerPosition() == p) return;
   }
 }
 
 void Conformance::Click(Point p, Button button) {
   PointAt(p);
-  under().Press(button);
-  under().Release(button);
+  under().Click(button);
   Settle();
 }
 
 void Conformance::DoubleClick(Point p, Button button) {
   PointAt(p);
-  for (int n = 0; n < 2; ++n) {
-    under().Press(button);
-    under().Release(button);
-  }
+  under().Click(button);
+  under().Click(button);
   Settle();
 }
 
 void Conformance::PressKey(int virtualKey) {
-  under().KeyDown(virtualKey);
-  under().KeyUp(virtualKey);
+  under().Stroke(virtualKey);
   Settle();
+}
+
+void Conformance::PressKeys(std::initializer_list<int> virtualKeys) {
+  for (const int virtualKey : virtualKeys) PressKey(virtualKey);
+}
+
+bool Conformance::Type(std::u16string_view keystrokes) {
+  const auto strokes = platform::ParseKeystrokes(keystrokes);
+  return strokes && desktop().input().Type(*strokes);
 }
 
 Point Conformance::CornerOf(const platform::TreeView& tree, platform::TreeNode node) {

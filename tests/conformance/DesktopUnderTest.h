@@ -50,10 +50,18 @@ class DesktopUnderTest {
   virtual void MoveTo(Point p) = 0;
   virtual void Press(Button button) = 0;
   virtual void Release(Button button) = 0;
+  void Click(Button button = Button::Left) {
+    Press(button);
+    Release(button);
+  }
   /// In parts of a notch; away from the user is positive.
   virtual void TurnWheel(int turn) = 0;
   virtual void KeyDown(int virtualKey) = 0;
   virtual void KeyUp(int virtualKey) = 0;
+  void Stroke(int virtualKey) {
+    KeyDown(virtualKey);
+    KeyUp(virtualKey);
+  }
   /// Happens after the delay whoever pumps then; it may use the hands and nothing else.
   virtual void Later(std::chrono::milliseconds delay, std::function<void()> act) = 0;
   /// The next pop-up menu is answered by its entry at this place, counted from 1 without the

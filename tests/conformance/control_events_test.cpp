@@ -15,28 +15,14 @@ struct Case {
 };
 void PrintTo(const Case& which, std::ostream* out) { *out << which.name; }
 
-/// A window with controls that write down what they tell.
-class Stage : public Conformance, public testing::WithParamInterface<Case> {
+/// Controls that write down what they tell.
+class Stage : public WithWindow, public testing::WithParamInterface<Case> {
  public:
-  using Conformance::Click;
-  using Conformance::CornerOf;
-  using Conformance::DoubleClick;
-  using Conformance::PointAt;
-  using Conformance::PressKey;
-  using Conformance::Rest;
-  using Conformance::Settle;
-  using Conformance::under;
-
   const std::string& Told() const { return told_; }
   void Forget() { told_.clear(); }
-  std::function<void()> Note(const std::string& event) {
-    return [this, event] { told_ += (told_.empty() ? "" : " ") + event; };
-  }
-  std::function<void(Button, const platform::MouseEvent&)> NoteButton(const std::string& event) {
-    return [note = Note(event)](Button, const platform::MouseEvent&) { note(); };
-  }
-  std::function<void(TreeNode)> NoteNode(const std::string& event) {
-    return [note = Note(event)](TreeNode) { note(); };
+  /// A handler for any event, whatever that carries.
+  auto Note(const std::string& event) {
+    return [this, event](const auto&...) { told_ += (told_.empty() ? "" : " ") + event; };
   }
   template <class Made>
   Made& Watch(std::unique_ptr<Made> made, const std::string& prefix = "") {
@@ -48,9 +34,8 @@ class Stage : public Conformance, public testing::WithParamInterface<Case> {
     return static_cast<Made&>(*controls_.back());
   }
   platform::Controls& Make() { return desktop().controls(); }
-  TopWindow& Parent() { return *window_; }
-  void PressBut(const platform::Window& window, Point releasedAt) {
-    PointAt(window);
+  void PressBut(const platform::Window& pressed, Point releasedAt) {
+    PointAt(pressed);
     under().Press(Button::Left);
     Settle();
     PointAt(releasedAt);
@@ -58,33 +43,24 @@ class Stage : public Conformance, public testing::WithParamInterface<Case> {
     Settle();
   }
 
- protected:
-  void SetUp() override {
-    window_ = NewWindow(listener_, {60, 60, 460, 360});
-    window_->Show(ShowMode::Activate);
-    ASSERT_TRUE(HasForeground(*window_));
-  }
-
  private:
-  Listener listener_;
-  std::unique_ptr<TopWindow> window_;
   std::vector<std::unique_ptr<platform::Control>> controls_;
   std::string told_;
 };
 
 constexpr Rect kPlace{20, 20, 180, 44};
-constexpr Point kBeside{400, 300};
+constexpr Point kBeside{380, 300};
 
 template <class Choice>
 Choice& WithItems(Choice& choice) {
-  for (const auto* item : {u"Äpfel", u"Birnen", u"Kirschen"}) choice.Add(item);
+  for (const auto* item : {u"Birnen", u"Äpfel", u"Birnen"}) choice.Add(item);
   return choice;
 }
 platform::ListBox& NewList(Stage& stage) {
-  return WithItems(stage.Watch(stage.Make().NewListBox(stage.Parent(), {20, 20, 180, 160})));
+  return WithItems(stage.Watch(stage.Make().NewListBox(*stage.window, {20, 20, 180, 160})));
 }
 platform::DropDownList& NewDropDown(Stage& stage) {
-  auto& list = stage.Watch(stage.Make().NewDropDownList(stage.Parent(), kPlace));
+  auto& list = stage.Watch(stage.Make().NewDropDownList(*stage.window, kPlace));
   list.DropDown = stage.Note("DropDown");
   return WithItems(list);
 }
@@ -106,43 +82,47 @@ void ChooseByCode(platform::ItemChoice& choice) {
   choice.Select(7);
   EXPECT_EQ(choice.Selected(), -1);
   choice.Select(-1);
+  EXPECT_EQ(choice.Item(2), u"Birnen") << "in the order of adding, also twice";
   choice.Select(2);
-  choice.Remove(2);
+  choice.Remove(0);
+  EXPECT_EQ(choice.Selected(), 1) << "the choice moves with its item";
+  choice.Remove(1);
+  EXPECT_EQ(choice.Selected(), -1);
+  EXPECT_EQ(choice.Item(1), u"");
   choice.Clear();
+  EXPECT_EQ(choice.Count(), 0);
 }
 void ChooseByKeys(Stage& stage, platform::ItemChoice& choice) {
   choice.Focus();
   stage.Forget();
-  for (const int virtualKey : {key::kHome, key::kDown, key::kEnd, key::kEnd}) {
-    stage.PressKey(virtualKey);
-  }
+  stage.PressKeys({key::kHome, key::kDown, key::kEnd, key::kEnd});
   EXPECT_EQ(choice.Selected(), 2);
 }
 
 struct Options {
   std::vector<platform::OptionButton*> buttons;
-  explicit Options(Stage& stage) {
+  explicit Options(Stage& stage, int secondGroup = 4) {
     for (int n = 0; n < 4; ++n) {
       const Rect place{20, 20 + 30 * n, 180, 44 + 30 * n};
+      const bool startsGroup = n == 0 || n == secondGroup;
       buttons.push_back(
-          &stage.Watch(stage.Make().NewOptionButton(stage.Parent(), place, u"Wahl", n == 0),
+          &stage.Watch(stage.Make().NewOptionButton(*stage.window, place, u"Wahl", startsGroup),
                        std::to_string(n) + ":"));
     }
+  }
+  std::string Marks() const {
+    std::string marks;
+    for (const auto* button : buttons) marks += button->Checked() ? 'x' : '-';
+    return marks;
   }
 };
 
 platform::Slider& NewSlider(Stage& stage) {
-  auto& slider = stage.Watch(stage.Make().NewSlider(stage.Parent(), {20, 20, 246, 60}));
+  auto& slider = stage.Watch(stage.Make().NewSlider(*stage.window, {20, 20, 246, 60}));
   slider.SetRange(0, 1000);
   slider.SetTickStep(100);
-  slider.MouseDown = stage.NoteButton("MouseDown");
+  slider.MouseDown = stage.Note("MouseDown");
   return slider;
-}
-
-platform::Label& NewLabel(Stage& stage) {
-  auto& label = stage.Watch(stage.Make().NewLabel(stage.Parent(), kPlace, u"Adresse", {}));
-  label.MouseDown = stage.NoteButton("MouseDown");
-  return label;
 }
 
 /// Two roots, the first with a child.
@@ -150,15 +130,15 @@ struct Tree {
   platform::TreeView& view;
   TreeNode folder, inside, second;
   explicit Tree(Stage& stage)
-      : view(stage.Watch(stage.Make().NewTreeView(stage.Parent(), {20, 20, 220, 200}))),
+      : view(stage.Watch(stage.Make().NewTreeView(*stage.window, {20, 20, 220, 200}))),
         folder(view.Add(0, u"Ordner", {})),
         inside(view.Add(folder, u"Unterordner", {})),
         second(view.Add(0, u"Programme", {})) {
-    view.MouseDown = stage.NoteButton("MouseDown");
-    view.MouseUp = stage.NoteButton("MouseUp");
-    view.NodeClick = stage.NoteNode("NodeClick");
-    view.Expanding = stage.NoteNode("Expanding");
-    view.Collapsed = stage.NoteNode("Collapsed");
+    view.MouseDown = stage.Note("MouseDown");
+    view.MouseUp = stage.Note("MouseUp");
+    view.NodeClick = stage.Note("NodeClick");
+    view.Expanding = stage.Note("Expanding");
+    view.Collapsed = stage.Note("Collapsed");
   }
   Point On(TreeNode node) const { return Stage::CornerOf(view, node) + Point{8, 8}; }
   Point FoldSignOf(TreeNode node) const { return Stage::CornerOf(view, node) + Point{-9, 9}; }
@@ -168,7 +148,7 @@ struct Tree {
 const Case kCases[] = {
     {"TextBoxByCode",
      [](Stage& stage) {
-       auto& box = stage.Watch(stage.Make().NewTextBox(stage.Parent(), kPlace, {}));
+       auto& box = stage.Watch(stage.Make().NewTextBox(*stage.window, kPlace, {}));
        box.SetText(u"ab");
        box.SetText(u"ab");
        box.Select(1, 1);
@@ -177,17 +157,17 @@ const Case kCases[] = {
      "Change Change"},
     {"TextBoxByHand",
      [](Stage& stage) {
-       auto& box = stage.Watch(stage.Make().NewTextBox(stage.Parent(), kPlace, {}));
+       auto& box = stage.Watch(stage.Make().NewTextBox(*stage.window, kPlace, {}));
        stage.Click(box);
        stage.PressKey('A');
        stage.Rest();
-       stage.DoubleClick(box.ScreenBounds().Middle());
+       stage.DoubleClick(box);
      },
      "Change"},
     {"RichTextBoxByCode",
      [](Stage& stage) {
        auto& box = stage.Watch(
-           stage.Make().NewRichTextBox(stage.Parent(), {20, 20, 220, 90}, {.multiLine = true}));
+           stage.Make().NewRichTextBox(*stage.window, {20, 20, 220, 90}, {.multiLine = true}));
        box.SetText(u"abc");
        box.SetText(u"abc");
        box.Select(1, 2);
@@ -203,7 +183,7 @@ const Case kCases[] = {
     {"RichTextBoxByKeys",
      [](Stage& stage) {
        auto& box = stage.Watch(
-           stage.Make().NewRichTextBox(stage.Parent(), {20, 20, 220, 90}, {.multiLine = true}));
+           stage.Make().NewRichTextBox(*stage.window, {20, 20, 220, 90}, {.multiLine = true}));
        box.Focus();
        stage.PressKey('A');
        stage.PressKey(key::kHome);
@@ -247,7 +227,7 @@ const Case kCases[] = {
      "DropDown Change Click DropDown"},
     {"CheckBoxByCode",
      [](Stage& stage) {
-       auto& box = stage.Watch(stage.Make().NewCheckBox(stage.Parent(), kPlace, u"&Kopie"));
+       auto& box = stage.Watch(stage.Make().NewCheckBox(*stage.window, kPlace, u"&Kopie"));
        box.SetChecked(true);
        box.SetChecked(true);
        box.SetChecked(false);
@@ -255,8 +235,8 @@ const Case kCases[] = {
      "Change Click Change Click"},
     {"CheckBoxByHand",
      [](Stage& stage) {
-       auto& box = stage.Watch(stage.Make().NewCheckBox(stage.Parent(), kPlace, u"&Kopie"));
-       stage.DoubleClick(box.ScreenBounds().Middle());
+       auto& box = stage.Watch(stage.Make().NewCheckBox(*stage.window, kPlace, u"&Kopie"));
+       stage.DoubleClick(box);
        EXPECT_FALSE(box.Checked()) << "each press counts";
        stage.PressBut(box, kBeside);
        stage.PressKey(key::kSpace);
@@ -265,19 +245,22 @@ const Case kCases[] = {
      "Change Click Change Click Change Click"},
     {"OptionButtonsByCode",
      [](Stage& stage) {
-       const Options options(stage);
+       const Options options(stage, 2);
+       EXPECT_EQ(options.Marks(), "----");
        options.buttons[0]->SetChecked(true);
+       options.buttons[3]->SetChecked(true);
        options.buttons[1]->SetChecked(true);
+       EXPECT_EQ(options.Marks(), "-x-x") << "one of each group";
        options.buttons[1]->SetChecked(false);
      },
-     "0:Change 0:Click 1:Change 1:Click"},
+     "0:Change 0:Click 3:Change 3:Click 1:Change 1:Click"},
     {"OptionButtonsByHand",
      [](Stage& stage) {
        const Options options(stage);
        stage.Click(*options.buttons[1]);
        stage.Rest();
-       stage.DoubleClick(options.buttons[1]->ScreenBounds().Middle());
-       stage.DoubleClick(options.buttons[2]->ScreenBounds().Middle());
+       stage.DoubleClick(*options.buttons[1]);
+       stage.DoubleClick(*options.buttons[2]);
      },
      "1:Change 1:Click 2:Change 2:Click"},
     {"OptionButtonsByKeys",
@@ -302,10 +285,12 @@ const Case kCases[] = {
        slider.SetValue(180);
        slider.SetValue(180);
        slider.SetRange(0, 500);
+       slider.SetValue(5000);
+       EXPECT_EQ(slider.Value(), 500);
        slider.SetRange(1, 100);
        EXPECT_EQ(slider.Value(), 100);
      },
-     "Change Change"},
+     "Change Change Change"},
     {"SliderByHand",
      [](Stage& stage) {
        auto& slider = NewSlider(stage);
@@ -337,10 +322,11 @@ const Case kCases[] = {
      ""},
     {"LabelByHand",
      [](Stage& stage) {
-       auto& label = NewLabel(stage);
+       auto& label = stage.Watch(stage.Make().NewLabel(*stage.window, kPlace, u"Adresse", {}));
+       label.MouseDown = stage.Note("MouseDown");
        stage.PressBut(label, kBeside);
        stage.Rest();
-       stage.DoubleClick(label.ScreenBounds().Middle());
+       stage.DoubleClick(label);
        stage.DoubleClick(label.ScreenBounds().Middle(), Button::Right);
      },
      "MouseDown MouseDown Click DoubleClick MouseDown MouseDown"},
@@ -406,17 +392,15 @@ const Case kCases[] = {
        const Tree tree(stage);
        tree.view.Focus();
        EXPECT_EQ(tree.view.Selected(), tree.folder) << "with the keyboard it has a selection";
-       for (const int virtualKey :
-            {key::kRight, key::kRight, key::kDown, key::kHome, key::kLeft, key::kEnd, key::kDown}) {
-         stage.PressKey(virtualKey);
-       }
+       stage.PressKeys(
+           {key::kRight, key::kRight, key::kDown, key::kHome, key::kLeft, key::kEnd, key::kDown});
        EXPECT_EQ(tree.view.Selected(), tree.second);
      },
      "Change Expanding Change NodeClick Change NodeClick Change NodeClick Collapsed "
      "Change NodeClick"},
 };
 
-class ControlEvents : public Stage {};
+using ControlEvents = Stage;
 
 TEST_P(ControlEvents, AreToldAsTheTableSays) {
   GetParam().story(*this);

@@ -7,26 +7,18 @@ namespace {
 namespace key = platform::key;
 using platform::TreeNode;
 
-class Controls : public Conformance {
+class Controls : public WithWindow {
  protected:
-  void SetUp() override {
-    window_ = NewWindow(listener_, {60, 60, 460, 360});
-    window_->Show(ShowMode::Activate);
-    ASSERT_TRUE(HasForeground(*window_));
-  }
   platform::Controls& controls() { return desktop().controls(); }
-  TopWindow& window() { return *window_; }
-  Listener& listener() { return listener_; }
   std::unique_ptr<platform::TextBox> NewTextBox(const platform::TextBoxStyle& style = {}) {
-    return controls().NewTextBox(window(), {10, 10, 210, style.multiLine ? 110 : 34}, style);
+    return controls().NewTextBox(*window, {10, 10, 210, style.multiLine ? 110 : 34}, style);
   }
-  void Type(std::initializer_list<int> keys) {
-    for (int virtualKey : keys) PressKey(virtualKey);
+  std::unique_ptr<platform::RichTextBox> NewRichTextBox() {
+    return controls().NewRichTextBox(*window, {10, 10, 310, 110}, {.multiLine = true});
   }
-
- private:
-  Listener listener_;
-  std::unique_ptr<TopWindow> window_;
+  std::unique_ptr<platform::TreeView> NewTree() {
+    return controls().NewTreeView(*window, {10, 10, 210, 290});
+  }
 };
 
 TEST_F(Controls, ATextBoxKeepsSelectionAndCaret) {
@@ -46,20 +38,20 @@ TEST_F(Controls, ATextBoxKeepsSelectionAndCaret) {
   EXPECT_EQ(box->SelLength(), 0);
 }
 
-TEST_F(Controls, TypedKeysReplaceTheSelectionAndTellOfTheChange) {
+TEST_F(Controls, KeysWriteIntoATextBoxThatIsNotReadOnly) {
   const auto box = NewTextBox();
-  int changes = 0;
-  box->events.Change = [&] { ++changes; };
   box->SetText(u"abc");
-  EXPECT_EQ(changes, 1);
   box->Focus();
-  ASSERT_TRUE(box->HasFocus());
   box->Select(1, 1);
-  Type({'X'});
+  PressKey('X');
   EXPECT_EQ(box->Text(), u"axc");
-  Type({key::kHome, key::kDelete, key::kEnd, key::kBack, key::kEnter, 'Y'});
+  PressKeys({key::kHome, key::kDelete, key::kEnd, key::kBack, key::kEnter, 'Y'});
   EXPECT_EQ(box->Text(), u"xy") << "a single line takes no line end";
-  EXPECT_EQ(changes, 5);
+  const auto fixed = NewTextBox({.readOnly = true});
+  fixed->SetText(u"fest");
+  fixed->Focus();
+  PressKeys({'X', key::kDelete});
+  EXPECT_EQ(fixed->Text(), u"fest");
 }
 
 TEST_F(Controls, HandlersStandBeforeTheTextBox) {
@@ -70,7 +62,7 @@ TEST_F(Controls, HandlersStandBeforeTheTextBox) {
     if (event.unit == u'b') event.unit = u'ß';
     if (event.unit == u'c') event.unit = 0;
   };
-  Type({'A', 'B', 'C', 'D'});
+  PressKeys({'A', 'B', 'C', 'D'});
   EXPECT_EQ(box->Text(), u"ßd");
 }
 
@@ -83,24 +75,15 @@ TEST_F(Controls, LineEndsCountTwoPositions) {
   EXPECT_EQ(box->Text(), u"ab\r\nXd");
   box->Focus();
   box->Select(2, 0);
-  Type({key::kRight, key::kEnter});
+  PressKeys({key::kRight, key::kEnter});
   EXPECT_EQ(box->Text(), u"ab\r\n\r\nXd");
   EXPECT_EQ(box->SelStart(), 6);
-  Type({key::kBack, key::kBack});
+  PressKeys({key::kBack, key::kBack});
   EXPECT_EQ(box->Text(), u"abXd");
 }
 
-TEST_F(Controls, AReadOnlyBoxIsChangedByCodeAlone) {
-  const auto box = NewTextBox({.readOnly = true});
-  box->SetText(u"fest");
-  box->Focus();
-  Type({'X', key::kDelete});
-  EXPECT_EQ(box->Text(), u"fest");
-}
-
 TEST_F(Controls, ARichTextBoxKeepsPropertiesOfItsParts) {
-  const auto box = controls().NewRichTextBox(window(), {10, 10, 310, 110}, {.multiLine = true});
-  ASSERT_TRUE(box);
+  const auto box = NewRichTextBox();
   box->SetText(u"ein fettes Wort");
   box->Select(4, 6);
   platform::RichSelection bold;
@@ -126,7 +109,7 @@ TEST_F(Controls, ARichTextBoxKeepsPropertiesOfItsParts) {
 }
 
 TEST_F(Controls, RichTextGoesOutAndInAgain) {
-  const auto box = controls().NewRichTextBox(window(), {10, 10, 310, 110}, {.multiLine = true});
+  const auto box = NewRichTextBox();
   EXPECT_TRUE(
       box->SetRichText(R"({\rtf1\ansi\ansicpg1252 gr\'fc\'dfe \b \u8364?\b0\par zwei\par})"));
   EXPECT_EQ(box->Text().substr(0, 13), u"grüße €\r\nzwei");
@@ -143,75 +126,8 @@ TEST_F(Controls, RichTextGoesOutAndInAgain) {
   EXPECT_EQ(box->Selection().bold, true);
 }
 
-TEST_F(Controls, OneOptionOfEachGroupIsChecked) {
-  std::vector<std::unique_ptr<platform::OptionButton>> options;
-  std::vector<int> clicks(4);
-  for (int n = 0; n < 4; ++n) {
-    const Rect place{10, 10 + 30 * n, 160, 34 + 30 * n};
-    options.push_back(controls().NewOptionButton(window(), place, u"Auswahl", n == 0 || n == 2));
-    options.back()->events.Click = [&clicks, n] { ++clicks[n]; };
-  }
-  const auto checked = [&] {
-    std::string marks;
-    for (const auto& option : options) marks += option->Checked() ? 'x' : '-';
-    return marks;
-  };
-  EXPECT_EQ(checked(), "----");
-  options[0]->SetChecked(true);
-  options[3]->SetChecked(true);
-  EXPECT_EQ(checked(), "x--x");
-  Click(*options[1]);
-  EXPECT_EQ(checked(), "-x-x");
-  EXPECT_EQ(clicks, (std::vector<int>{1, 1, 0, 1}));
-}
-
-TEST_F(Controls, ChoicesFollowCodeAndKeys) {
-  const std::unique_ptr<platform::ItemChoice> choices[] = {
-      controls().NewDropDownList(window(), {10, 10, 160, 34}),
-      controls().NewListBox(window(), {10, 50, 160, 150})};
-  for (const auto& choice : choices) {
-    SCOPED_TRACE(choice == choices[0] ? "drop-down list" : "list box");
-    int clicks = 0;
-    choice->events.Click = [&] { ++clicks; };
-    for (const auto* item : {u"Äpfel", u"Birnen", u"Äpfel"}) choice->Add(item);
-    EXPECT_EQ(choice->Count(), 3);
-    EXPECT_EQ(choice->Selected(), -1);
-    choice->Select(1);
-    choice->Select(1);
-    EXPECT_EQ(clicks, 1) << "the same item again is no choice";
-    EXPECT_EQ(choice->Item(2), u"Äpfel") << "in the order of adding, also twice";
-    choice->Focus();
-    PressKey(key::kDown);
-    EXPECT_EQ(choice->Selected(), 2);
-    EXPECT_EQ(clicks, 2);
-    choice->Remove(0);
-    EXPECT_EQ(choice->Selected(), 1);
-    EXPECT_EQ(choice->Item(5), u"");
-    choice->Clear();
-    EXPECT_EQ(choice->Count(), 0);
-    EXPECT_EQ(choice->Selected(), -1);
-    EXPECT_EQ(clicks, 2);
-  }
-}
-
-TEST_F(Controls, ASliderStaysInItsRange) {
-  const auto slider = controls().NewSlider(window(), {10, 10, 210, 44});
-  int changes = 0;
-  slider->events.Change = [&] { ++changes; };
-  slider->SetRange(0, 1000);
-  slider->SetValue(180);
-  EXPECT_EQ(slider->Value(), 180);
-  EXPECT_EQ(changes, 1);
-  slider->SetValue(5000);
-  EXPECT_EQ(slider->Value(), 1000);
-  slider->Focus();
-  PressKey(key::kHome);
-  EXPECT_EQ(slider->Value(), 0);
-  EXPECT_EQ(changes, 3);
-}
-
 TEST_F(Controls, ASliderMarksItsSteps) {
-  const auto slider = controls().NewSlider(window(), {10, 10, 256, 60});
+  const auto slider = controls().NewSlider(*window, {10, 10, 256, 60});
   slider->SetRange(0, 1000);
   slider->SetTickStep(100);
   Settle();
@@ -230,50 +146,39 @@ TEST_F(Controls, ASliderMarksItsSteps) {
   EXPECT_EQ(most, 11);
 }
 
-TEST_F(Controls, ATreeSortsFillsAndFolds) {
-  const auto tree = controls().NewTreeView(window(), {10, 10, 210, 210});
+TEST_F(Controls, ATreeFillsAndFolds) {
+  const auto tree = NewTree();
   const auto root = tree->Add(0, u"Arbeitsplatz", {});
   tree->SetSorted(root, true);
   const auto b = tree->Add(root, u"beta", {});
-  const auto c = tree->Add(root, u"Charlie", {});
   const auto a = tree->Add(root, u"Alpha", {});
   EXPECT_EQ(tree->FirstChild(root), a);
-  EXPECT_EQ(tree->Next(a), b);
-  EXPECT_EQ(tree->Next(b), c);
-  EXPECT_EQ(tree->Next(c), 0);
+  EXPECT_EQ(tree->Next(b), 0);
   EXPECT_EQ(tree->Parent(b), root);
-  EXPECT_EQ(tree->Caption(c), u"Charlie");
 
-  std::vector<platform::TreeNode> opened, closed;
-  platform::TreeNode late = 0;
-  tree->Expanding = [&](platform::TreeNode node) {
-    opened.push_back(node);
+  TreeNode late = 0, closed = 0;
+  tree->Expanding = [&](TreeNode node) {
     if (node == root && late == 0) late = tree->Add(root, u"Anton", {});
   };
-  tree->Collapsed = [&](platform::TreeNode node) { closed.push_back(node); };
-  EXPECT_FALSE(tree->Expanded(root));
+  tree->Collapsed = [&](TreeNode node) { closed = node; };
   tree->SetExpanded(root, true);
-  EXPECT_TRUE(tree->Expanded(root));
-  EXPECT_EQ(opened, (std::vector{root}));
   EXPECT_EQ(tree->Next(a), late) << "children may come while it opens";
   tree->SetExpanded(root, false);
-  EXPECT_EQ(closed, (std::vector{root}));
+  EXPECT_EQ(closed, root);
   tree->SetExpanded(b, true);
   EXPECT_FALSE(tree->Expanded(b)) << "nothing to open without children";
 
-  tree->Select(c);
-  EXPECT_EQ(tree->Selected(), c);
+  tree->Select(b);
   EXPECT_TRUE(tree->Expanded(root)) << "a chosen node is shown";
-  tree->Remove(b);
-  EXPECT_EQ(tree->Next(late), c);
+  tree->Remove(late);
+  EXPECT_EQ(tree->Next(a), b);
   tree->Clear();
   EXPECT_EQ(tree->FirstChild(0), 0);
-  const auto again = tree->Add(0, u"neu", {});
-  EXPECT_GT(again, late) << "numbers are never used twice";
+  EXPECT_GT(tree->Add(0, u"neu", {}), late) << "numbers are never used twice";
 }
 
 TEST_F(Controls, ATreeSortsAsPeopleRead) {
-  const auto tree = controls().NewTreeView(window(), {10, 10, 210, 310});
+  const auto tree = NewTree();
   tree->SetSorted(0, true);
   for (const auto* name : {u"Zeit", u"öde", u"straße", u"Äpfel", u"Ofen", u"apfel", u"ändern",
                            u"Apfelmus", u"strand"}) {
@@ -287,7 +192,7 @@ TEST_F(Controls, ATreeSortsAsPeopleRead) {
 }
 
 TEST_F(Controls, ATreeShowsEachNodesOwnIcon) {
-  const auto tree = controls().NewTreeView(window(), {10, 10, 210, 210});
+  const auto tree = NewTree();
   const auto icon = [](std::uint32_t pixel) {
     return std::make_shared<platform::IconPixels>(
         platform::IconPixels{{16, 16}, std::vector<std::uint32_t>(256, pixel)});
@@ -308,30 +213,30 @@ TEST_F(Controls, ATreeShowsEachNodesOwnIcon) {
 }
 
 TEST_F(Controls, AFrameLeavesTheClicksToWhatItSurrounds) {
-  const auto before = controls().NewCheckBox(window(), {30, 40, 120, 60}, u"vorher");
-  const auto frame = controls().NewFrame(window(), {10, 10, 210, 210}, u"Gruppe");
-  const auto after = controls().NewCheckBox(window(), {30, 80, 120, 100}, u"nachher");
+  const auto before = controls().NewCheckBox(*window, {30, 40, 120, 60}, u"vorher");
+  const auto frame = controls().NewFrame(*window, {10, 10, 210, 210}, u"Gruppe");
+  const auto after = controls().NewCheckBox(*window, {30, 80, 120, 100}, u"nachher");
   Click(*before);
   Click(*after);
   EXPECT_TRUE(before->Checked());
   EXPECT_TRUE(after->Checked());
   Click(*frame);
-  EXPECT_EQ(listener().Count("left down"), 1);
+  EXPECT_EQ(listener.Count("left down"), 1);
 }
 
 TEST_F(Controls, AToolTipShowsWhileThePointerRests) {
   const auto shows = [&](const std::u16string& text) {
     return Until([&] { return under().ToolTipShown() == text; }, 3s);
   };
-  const auto label = controls().NewLabel(window(), {10, 10, 110, 40}, u"Adresse", {});
-  const auto box = controls().NewCheckBox(window(), {10, 60, 110, 90}, u"Kopie");
+  const auto label = controls().NewLabel(*window, {10, 10, 110, 40}, u"Adresse", {});
+  const auto box = controls().NewCheckBox(*window, {10, 60, 110, 90}, u"Kopie");
   label->SetToolTip(u"Straße");
   box->SetToolTip(u"Zwei & drei");
   PointAt(*label);
   EXPECT_TRUE(shows(u"Straße"));
   PointAt(*box);
   EXPECT_TRUE(shows(u"Zwei & drei"));
-  PointAt(window());
+  PointAt(*window);
   EXPECT_TRUE(shows(u""));
   label->SetToolTip(u"Ort");
   box->SetToolTip({});
@@ -343,16 +248,16 @@ TEST_F(Controls, AToolTipShowsWhileThePointerRests) {
 }
 
 TEST_F(Controls, TheHourglassStandsOverAllOfThem) {
-  const auto tree = controls().NewTreeView(window(), {10, 10, 210, 110});
-  const auto box = controls().NewTextBox(window(), {10, 120, 210, 144}, {});
+  const auto tree = controls().NewTreeView(*window, {10, 10, 210, 110});
+  const auto box = controls().NewTextBox(*window, {10, 120, 210, 144}, {});
   PointAt(*tree);
   EXPECT_FALSE(under().HourglassShown());
   desktop().input().SetWaitPointer(true);
   EXPECT_TRUE(under().HourglassShown()) << "at once: who waits does not pump";
   PointAt(*box);
   EXPECT_TRUE(under().HourglassShown());
-  window().SetPointer({platform::StandardPointer::SizeAll, {}});
-  PointAt(window());
+  window->SetPointer({platform::StandardPointer::SizeAll, {}});
+  PointAt(*window);
   EXPECT_TRUE(under().HourglassShown());
   desktop().input().SetWaitPointer(false);
   EXPECT_FALSE(under().HourglassShown());

@@ -12,32 +12,21 @@ using platform::Answer;
 using platform::MessageButtons;
 namespace key = platform::key;
 
-class Dialogs : public Conformance {
+class Dialogs : public WithWindow {
  protected:
-  Dialogs() : owner_(NewWindow(listener_, kOurs)) {
-    owner_->Show(ShowMode::Activate);
-    EXPECT_TRUE(HasForeground(*owner_));
-    inLoop_ = desktop().pump().NewTimer(50, [this] {
-      if (step_ == 0) LookAround();
-      if (step_ < keys_.size()) Stroke(keys_[step_]);
-      ++step_;
-      if (onTick_) onTick_();
-    });
-  }
-
   Answer Show(MessageButtons buttons, std::vector<int> keys) {
     Begin(std::move(keys));
     const Answer answer = desktop().dialogs().ShowMessage({.text = u"Größe ändern?",
                                                            .title = u"Frage",
                                                            .buttons = buttons,
                                                            .icon = platform::MessageIcon::Question,
-                                                           .owner = owner_.get()});
+                                                           .owner = window.get()});
     inLoop_->SetEnabled(false);
     return answer;
   }
   std::optional<platform::FontChoice> Choose(const platform::FontChoice& start, int pressed) {
     Begin({pressed});
-    auto choice = desktop().dialogs().ChooseFont(start, owner_.get());
+    auto choice = desktop().dialogs().ChooseFont(start, window.get());
     inLoop_->SetEnabled(false);
     return choice;
   }
@@ -46,18 +35,18 @@ class Dialogs : public Conformance {
     step_ = 0;
     inLoop_->SetEnabled(true);
   }
-  void Stroke(int virtualKey) {
-    under().KeyDown(virtualKey);
-    under().KeyUp(virtualKey);
-  }
-  void LookAround() {
-    ownerWasEnabled_ = owner_->Enabled();
-    foreground_ = desktop().windows().ForegroundWindow();
+  void Tick() {
+    if (step_ == 0) {
+      ownerWasEnabled_ = window->Enabled();
+      foreground_ = desktop().windows().ForegroundWindow();
+    }
+    if (step_ < keys_.size()) under().Stroke(keys_[step_]);
+    ++step_;
+    if (onTick_) onTick_();
   }
 
-  Listener listener_;
-  std::unique_ptr<TopWindow> owner_;
-  std::unique_ptr<platform::Timer> inLoop_;
+  const std::unique_ptr<platform::Timer> inLoop_ =
+      desktop().pump().NewTimer(50, [this] { Tick(); });
   std::vector<int> keys_;
   std::size_t step_ = 0;  // ticks of the loop so far
   std::function<void()> onTick_;
@@ -101,17 +90,17 @@ TEST_F(Dialogs, WhileOneStandsTheOwnerIsDisabledAndNoneOfOursIsInFront) {
   EXPECT_FALSE(ownerWasEnabled_);
   EXPECT_TRUE(foreground_.present);
   EXPECT_EQ(foreground_.ours, nullptr);
-  EXPECT_TRUE(owner_->Enabled());
-  EXPECT_TRUE(HasForeground(*owner_)) << "the activation comes back";
-  EXPECT_EQ(listener_.Count("key 13"), 0) << "its keys are not the owner's";
-  owner_->SetEnabled(false);
+  EXPECT_TRUE(window->Enabled());
+  EXPECT_TRUE(HasForeground(*window)) << "the activation comes back";
+  EXPECT_EQ(listener.Count("key 13"), 0) << "its keys are not the owner's";
+  window->SetEnabled(false);
   Show(MessageButtons::Ok, {key::kEnter});
   // Wine enables it whatever it was.
-  EXPECT_EQ(owner_->Enabled(), under().OnWine()) << "one that was disabled before stays so";
+  EXPECT_EQ(window->Enabled(), under().OnWine()) << "one that was disabled before stays so";
 }
 
 TEST_F(Dialogs, ABoxGoesWithItsOwner) {
-  onTick_ = [this] { owner_->Close(); };
+  onTick_ = [this] { window->Close(); };
   EXPECT_EQ(Show(MessageButtons::YesNo, {}), Answer::No);
   EXPECT_EQ(step_, 1u);
 }

@@ -5,7 +5,6 @@ namespace conformance {
 namespace {
 
 using platform::DropEffect;
-namespace key = platform::key;
 
 class PointerChoice : public platform::DragFeedback {
  public:
@@ -20,21 +19,20 @@ class PointerChoice : public platform::DragFeedback {
 /// The drag starts from the source as soon as the pointer moves there with the button held.
 class Drags : public Conformance {
  protected:
-  static constexpr Rect kTarget{300, 60, 400, 220};
+  static constexpr Rect kTarget{420, 60, 520, 220};
   static constexpr auto kOverTarget = 650ms;  // before a drag to there is planned
 
-  Drags() : source_(NewWindow(from_, kOurs)), target_(NewWindow(to_, kTarget)) {
+  Drags() {
     to_.dropEffect = DropEffect::Copy;
     target_->SetAcceptsDrops(true);
-    source_->Show(ShowMode::Activate);
     target_->Show(ShowMode::NoActivate);
+    Activate(*source_);
     from_.onMouseMove = [this] {
       if (!from_.lastMouse.left || begun_) return;
       begun_ = true;
       effect_ = source_->Drag(content_, DropEffect::Copy, &pointers_);
       ended_ = true;
     };
-    Settle();
   }
   DropEffect DragTo(Point to) {
     PlanDrag(kOurs.Middle(), to);
@@ -44,7 +42,8 @@ class Drags : public Conformance {
   }
 
   Listener from_, to_;
-  std::unique_ptr<TopWindow> source_, target_;
+  const std::unique_ptr<TopWindow> source_ = NewWindow(from_);
+  const std::unique_ptr<TopWindow> target_ = NewWindow(to_, kTarget);
   platform::DataContent content_;
   PointerChoice pointers_;
 
@@ -76,6 +75,8 @@ TEST_F(Drags, ARegisteredFormatAndFilesAreDraggedBetweenTwoOfOurWindows) {
   EXPECT_EQ(to_.Count("leave"), 0);
   EXPECT_EQ(to_.log.back(), "drop");
   EXPECT_EQ(from_.Count("left up"), 0) << "the drag takes the release";
+  EXPECT_EQ(pointers_.asked, (std::vector<DropEffect>{DropEffect::None, DropEffect::Copy}))
+      << "the source chooses the pointer for each effect";
 }
 
 TEST_F(Drags, OneThatIsTakenNowhereLeavesAgain) {
@@ -88,20 +89,11 @@ TEST_F(Drags, OneThatIsTakenNowhereLeavesAgain) {
 
 TEST_F(Drags, EscapeEndsOneWithoutADrop) {
   content_.text = u"x";
-  under().Later(kOverTarget, [this] {
-    under().KeyDown(key::kEscape);
-    under().KeyUp(key::kEscape);
-  });
+  under().Later(kOverTarget, [this] { under().Stroke(platform::key::kEscape); });
   EXPECT_EQ(DragTo(kTarget.Middle()), DropEffect::None);
   EXPECT_EQ(to_.Count("enter"), 1);
   EXPECT_EQ(to_.Count("drop"), 0);
   EXPECT_EQ(to_.Count("leave"), 1);
-}
-
-TEST_F(Drags, TheSourceChoosesThePointerForEachEffect) {
-  content_.text = u"x";
-  DragTo(kTarget.Middle());
-  EXPECT_EQ(pointers_.asked, (std::vector<DropEffect>{DropEffect::None, DropEffect::Copy}));
 }
 
 TEST_F(Drags, TextIsDraggedOutIntoAnotherProgram) {

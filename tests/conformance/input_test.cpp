@@ -1,4 +1,4 @@
-// The physical state of buttons and keys, and single key events.
+// The physical state of buttons and keys, single key events, and text that is typed.
 #include "platform/input.h"
 
 #include "tests/conformance/Conformance.h"
@@ -33,7 +33,6 @@ TEST_F(Input, AButtonIsDownFromItsPressToItsReleaseWhereverThePointerIs) {
 
 TEST_F(Input, AnInjectedKeyIsDownAndReachesTheWindowThatHasTheKeyboard) {
   const auto other = StartOther();
-  ASSERT_TRUE(OtherHasForeground());
   const auto inject = [&](int virtualKey, int scanCode, KeyEdge edge) {
     input().InjectKey(virtualKey, scanCode, false, edge);
     Settle();
@@ -48,6 +47,19 @@ TEST_F(Input, AnInjectedKeyIsDownAndReachesTheWindowThatHasTheKeyboard) {
   inject('B', 0x30, KeyEdge::Down);
   inject('B', 0x30, KeyEdge::Up);
   EXPECT_TRUE(OtherHolds(*other, u"Ab"));
+}
+
+TEST_F(Input, ModifiersThatTheUserHoldsDoNotMixIntoTypedText) {
+  for (const int held : {key::kShift, key::kControl, key::kAlt}) {
+    SCOPED_TRACE(held);
+    const auto other = StartOther();
+    under().KeyDown(held);
+    EXPECT_TRUE(Type(u"größer{ENTER}xy{LEFT}a"));
+    EXPECT_TRUE(input().KeyDown(held)) << "the user still holds it";
+    under().KeyUp(held);
+    EXPECT_TRUE(Until([&] { return other->Text().size() >= 11; }));
+    EXPECT_EQ(platform::ToUtf8(other->Text()), platform::ToUtf8(u"größer\r\nxay"));
+  }
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 // Pop-up menus and the task bar icon.
-#include "platform/keystrokes.h"
 #include "platform/taskbar.h"
 #include "tests/conformance/Conformance.h"
 
@@ -8,15 +7,11 @@ namespace {
 
 using platform::TaskBarEvent;
 
-class Menus : public Conformance {
+class Menus : public WithWindow {
  protected:
-  Menus() : owner_(NewWindow(listener_, kOurs)) {
-    owner_->Show(ShowMode::Activate);
-    EXPECT_TRUE(HasForeground(*owner_));
-  }
   std::optional<int> Choose(int place) {
     under().ChooseInMenu(place);
-    const auto chosen = desktop().menus().PopUp(*owner_, kOurs.Middle(), kMenu,
+    const auto chosen = desktop().menus().PopUp(*window, kOurs.Middle(), kMenu,
                                                 platform::MenuButtons::LeftAndRight);
     Settle();
     return chosen;
@@ -27,8 +22,6 @@ class Menus : public Conformance {
                              {},
                              {.id = 13, .caption = u"&Grau", .enabled = false},
                              {.id = 14, .caption = u"&Zwei", .isDefault = true}};
-  Listener listener_;
-  std::unique_ptr<TopWindow> owner_;
 };
 
 TEST_F(Menus, EntriesStandThereAsTheyWereGiven) {
@@ -49,14 +42,13 @@ TEST_F(Menus, OnlyWhatCanBeChosenIsAnAnswer) {
   EXPECT_EQ(Choose(0), std::nullopt) << "dismissed";
   EXPECT_EQ(Choose(2), std::nullopt) << "disabled";
   EXPECT_EQ(Choose(1), 11);
-  EXPECT_TRUE(HasForeground(*owner_));
+  EXPECT_TRUE(HasForeground(*window));
 }
 
 TEST_F(Menus, AClosedOwnerHasNone) {
   const auto other = StartOther();
-  ASSERT_TRUE(OtherHasForeground());
-  owner_->Close();
-  EXPECT_EQ(desktop().menus().PopUp(*owner_, kOurs.Middle(), kMenu, platform::MenuButtons::Left),
+  window->Close();
+  EXPECT_EQ(desktop().menus().PopUp(*window, kOurs.Middle(), kMenu, platform::MenuButtons::Left),
             std::nullopt);
   EXPECT_TRUE(OtherHasForeground());
 }
@@ -107,7 +99,6 @@ TEST_F(OnTaskBar, AClickMayTakeTheIconAway) {
 // The menu stood up in the midst of a long text, and its end could quit the program there.
 TEST_F(OnTaskBar, AClickDuringALongDeliveryWaitsForTheLoop) {
   const auto other = StartOther();
-  ASSERT_TRUE(OtherHasForeground());
   bool typing = false, clickedMeanwhile = false;
   int clicks = 0;
   ASSERT_TRUE(taskBar().AddIcon(kIcon, u"", [&](TaskBarEvent) {
@@ -115,10 +106,8 @@ TEST_F(OnTaskBar, AClickDuringALongDeliveryWaitsForTheLoop) {
     clickedMeanwhile = clickedMeanwhile || typing;
   }));
   under().Later(50ms, [this] { under().OnIcon(TaskBarEvent::RightUp); });
-  const auto strokes = platform::ParseKeystrokes(u"{a 800}");
-  ASSERT_TRUE(strokes);
   typing = true;
-  EXPECT_TRUE(desktop().input().Type(*strokes));
+  EXPECT_TRUE(Type(u"{a 800}"));
   typing = false;
   EXPECT_TRUE(Until([&] { return clicks == 1; }));
   EXPECT_FALSE(clickedMeanwhile);

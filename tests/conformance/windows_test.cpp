@@ -8,19 +8,12 @@ namespace {
 namespace key = platform::key;
 using Log = std::vector<std::string>;
 
-class Windows : public Conformance {
- protected:
-  std::unique_ptr<platform::Pane> NewPane(platform::Pane& parent, const Rect& bounds,
-                                          Listener& listener, bool focusable = false) {
-    return desktop().windows().NewPane(parent, bounds, focusable, listener);
-  }
-};
+class Windows : public Conformance {};
+class OurWindow : public WithWindow {};
 
-TEST_F(Windows, AnEllipseLimitsWhatIsSeenAndClicked) {
-  Listener behind, round;
-  const auto back = NewWindow(behind, kOurs);
-  const auto front = NewWindow(round, kOurs);
-  back->Show(ShowMode::Activate);
+TEST_F(OurWindow, IsCoveredByAnEllipseOnlyInsideOfIt) {
+  Listener round;
+  const auto front = NewWindow(round);
   // Wine lets a window fall behind its like when its region changes while it is shown.
   ASSERT_TRUE(front->SetEllipseRegion(Rect::At({0, 0}, kOurs.Size())));
   front->Show(ShowMode::Activate);
@@ -29,10 +22,10 @@ TEST_F(Windows, AnEllipseLimitsWhatIsSeenAndClicked) {
   // window loses its turn by that; Windows leaves order and activation alone.
   if (under().OnWine()) front->Show(ShowMode::Activate);
   const Point corner = kOurs.Origin() + Point{4, 4};
-  EXPECT_EQ(desktop().windows().WindowAt(corner), back.get());
+  EXPECT_EQ(desktop().windows().WindowAt(corner), window.get());
   EXPECT_EQ(desktop().windows().WindowAt(kOurs.Middle()), front.get());
   Click(corner);
-  EXPECT_EQ(behind.Count("left down"), 1);
+  EXPECT_EQ(listener.Count("left down"), 1);
   EXPECT_EQ(round.Count("left down"), 0);
   ASSERT_TRUE(front->SetEllipseRegion(std::nullopt));
   front->Show(ShowMode::Activate);
@@ -40,66 +33,44 @@ TEST_F(Windows, AnEllipseLimitsWhatIsSeenAndClicked) {
   EXPECT_EQ(desktop().windows().WindowAt(corner), front.get());
 }
 
-TEST_F(Windows, APressKeepsThePointerUntilTheRelease) {
-  Listener listener, other;
-  const auto window = NewWindow(listener, kOurs);
-  const auto beside = NewWindow(other, {300, 60, 400, 220});
+TEST_F(OurWindow, KeepsThePointerFromAPressToTheReleaseUnlessItEndsTheCapture) {
+  Listener besideListener;
+  const auto beside = NewWindow(besideListener, {420, 60, 520, 220});
   beside->Show(ShowMode::NoActivate);
-  window->Show(ShowMode::Activate);
-  Settle();
-  under().MoveTo(kOurs.Middle());
-  under().Press(Button::Left);
-  Settle();
-  under().MoveTo({350, 140});
-  const Point outside = Point{350, 140} - kOurs.Origin();
-  EXPECT_TRUE(Until([&] { return listener.lastMouse.at == outside; }));
-  EXPECT_TRUE(listener.lastMouse.left);
-  under().Release(Button::Left);
-  EXPECT_TRUE(Until([&] { return listener.Count("left up") == 1; }));
-  EXPECT_EQ(other.Count("left up"), 0);
-}
-
-TEST_F(Windows, AnEndedCaptureLeavesTheReleaseToTheWindowUnderThePointer) {
-  Listener listener, other;
-  const auto window = NewWindow(listener, kOurs);
-  const auto beside = NewWindow(other, {300, 60, 400, 220});
-  beside->Show(ShowMode::NoActivate);
-  window->Show(ShowMode::Activate);
-  listener.onMouseDown = [&] { window->ReleaseCapture(); };
-  Settle();
-  under().MoveTo(kOurs.Middle());
-  under().Press(Button::Left);
-  Settle();
-  under().MoveTo({350, 140});
-  Settle();
-  under().Release(Button::Left);
-  EXPECT_TRUE(Until([&] { return other.Count("left up") == 1; }));
-  EXPECT_EQ(listener.Count("left up"), 0);
-}
-
-TEST_F(Windows, TheSecondPressOfADoubleClickIsOne) {
-  Listener listener;
-  const auto window = NewWindow(listener, kOurs);
-  window->Show(ShowMode::Activate);
-  Settle();
-  listener.log.clear();
-  under().MoveTo(kOurs.Middle());
-  for (int n = 0; n < 3; ++n) {
+  platform::MouseEvent beforeRelease;
+  const auto pressAndReleaseBeside = [&] {
+    PointAt(*window);
     under().Press(Button::Left);
+    Settle();
+    PointAt(*beside);
+    Settle();
+    beforeRelease = listener.lastMouse;
     under().Release(Button::Left);
-  }
+    Settle();
+  };
+  pressAndReleaseBeside();
+  EXPECT_EQ(beforeRelease.at, beside->Bounds().Middle() - kOurs.Origin());
+  EXPECT_TRUE(beforeRelease.left);
+  EXPECT_EQ(listener.Count("left up"), 1);
+  EXPECT_EQ(besideListener.Count("left up"), 0);
+  Rest();
+  listener.onMouseDown = [&] { window->ReleaseCapture(); };
+  pressAndReleaseBeside();
+  EXPECT_EQ(listener.Count("left up"), 1);
+  EXPECT_EQ(besideListener.Count("left up"), 1);
+}
+
+TEST_F(OurWindow, GetsTheSecondPressOfADoubleClickAsOne) {
+  PointAt(*window);
+  listener.log.clear();
+  for (int n = 0; n < 3; ++n) under().Click();
   Settle();
   EXPECT_EQ(listener.log,
             (Log{"left down", "left up", "left double", "left up", "left down", "left up"}));
 }
 
-TEST_F(Windows, PartsOfAWheelNotchAddUp) {
-  Listener listener;
-  const auto window = NewWindow(listener, kOurs);
-  window->Show(ShowMode::Activate);
-  ASSERT_TRUE(HasForeground(*window));
-  under().MoveTo(kOurs.Middle());
-  Settle();
+TEST_F(OurWindow, AddsUpThePartsOfAWheelNotch) {
+  PointAt(*window);
   listener.log.clear();
   // A part, two that fill one notch and begin another, a turn back that forgets it.
   for (const int turn : {40, 40, 80, -100, -20, -240, 120}) {
@@ -110,28 +81,26 @@ TEST_F(Windows, PartsOfAWheelNotchAddUp) {
   EXPECT_EQ(listener.lastMouse.at, kOurs.Middle() - kOurs.Origin());
 }
 
-TEST_F(Windows, TheInnermostVisibleWindowIsUnderThePoint) {
-  Listener listener, outer, inner;
-  const auto window = NewWindow(listener, kOurs);
+TEST_F(OurWindow, IsUnderThePointBehindItsVisibleChildren) {
+  Listener outer, inner;
   const auto pane = NewPane(*window, {10, 10, 110, 110}, outer);
   const auto child = NewPane(*pane, {20, 20, 60, 60}, inner);
-  window->Show(ShowMode::Activate);
-  Settle();
-  const Point p = kOurs.Origin() + Point{35, 35};
   EXPECT_EQ(child->ScreenBounds(), (Rect{90, 90, 130, 130}));
-  EXPECT_EQ(desktop().windows().WindowAt(p), child.get());
+  const auto there = [&] { return desktop().windows().WindowAt(kOurs.Origin() + Point{35, 35}); };
+  EXPECT_EQ(there(), child.get());
   child->SetVisible(false);
-  EXPECT_EQ(desktop().windows().WindowAt(p), pane.get());
+  EXPECT_EQ(there(), pane.get());
   pane->SetVisible(false);
-  EXPECT_EQ(desktop().windows().WindowAt(p), window.get());
+  EXPECT_EQ(there(), window.get());
   window->Hide();
   Settle();
-  EXPECT_EQ(desktop().windows().WindowAt(p), nullptr);
+  EXPECT_EQ(there(), nullptr);
 }
 
-TEST_F(Windows, BeingSeenIsToldToAllWhoAreSeenWithIt) {
-  Listener listener, outer, inner;
-  const auto window = NewWindow(listener, kOurs);
+TEST_F(OurWindow, TellsAllWhoAreSeenWithItThatTheyAre) {
+  Listener outer, inner;
+  window->Hide();
+  listener.log.clear();
   const auto pane = NewPane(*window, {10, 10, 110, 110}, outer);
   const auto child = NewPane(*pane, {20, 20, 60, 60}, inner);
   child->SetVisible(false);
@@ -159,7 +128,7 @@ TEST_F(Windows, WhatWasDrawnOutOfSightIsThereOnceItIsSeen) {
   constexpr platform::Colour kBack = 0x302010, kFront = 0xA0B0C0, kBehind = 0x00C000,
                              kInner = 0x4050F0, kLater = 0xF00000;
   Listener listener, frontListener, behindListener, innerListener;
-  const auto window = NewWindow(listener, kOurs);
+  const auto window = NewWindow(listener);
   const auto front = NewPane(*window, {10, 10, 90, 90}, frontListener);
   const auto behind = NewPane(*window, {50, 50, 150, 150}, behindListener);
   const auto inner = NewPane(*front, {60, 0, 160, 20}, innerListener);
@@ -191,9 +160,8 @@ TEST_F(Windows, WhatWasDrawnOutOfSightIsThereOnceItIsSeen) {
   EXPECT_TRUE(shows({80, 20}, kInner));
 }
 
-TEST_F(Windows, TheCanvasFollowsTheSizeAndKeepsItsContent) {
-  Listener listener, inside;
-  const auto window = NewWindow(listener, kOurs);
+TEST_F(OurWindow, HasPanesWhoseCanvasFollowsTheirSizeAndKeepsItsContent) {
+  Listener inside;
   const auto pane = NewPane(*window, {0, 0, 40, 30}, inside);
   platform::FillRect(pane->Canvas(), pane->Canvas().Area(), 0x0000FF);
   pane->SetBounds({5, 5, 65, 25});
@@ -209,25 +177,20 @@ TEST_F(Windows, TheCanvasFollowsTheSizeAndKeepsItsContent) {
 
 TEST_F(Windows, AFrameLeavesTheClientAreaItsSize) {
   Listener listener, inside;
-  const auto window = desktop().windows().NewTopWindow(
-      {.frame = platform::FrameStyle::Dialog, .caption = u"Dialog"}, listener);
-  window->SetBounds(kOurs);
-  window->SetClientSize({200, 100});
-  EXPECT_EQ(window->ClientSize(), (platform::Size{200, 100}));
-  EXPECT_EQ(window->Bounds().Origin(), kOurs.Origin());
-  EXPECT_GT(window->Bounds().Height(), 100);
-  EXPECT_EQ(window->Canvas().Size(), window->ClientSize());
-  const auto pane = NewPane(*window, {0, 0, 10, 10}, inside);
-  EXPECT_GT(pane->ScreenBounds().top, window->Bounds().top) << "below the title bar";
+  const auto dialog = NewDialog(listener);
+  dialog->SetClientSize({200, 100});
+  EXPECT_EQ(dialog->ClientSize(), (platform::Size{200, 100}));
+  EXPECT_EQ(dialog->Bounds().Origin(), kOurs.Origin());
+  EXPECT_GT(dialog->Bounds().Height(), 100);
+  EXPECT_EQ(dialog->Canvas().Size(), dialog->ClientSize());
+  const auto pane = NewPane(*dialog, {0, 0, 10, 10}, inside);
+  EXPECT_GT(pane->ScreenBounds().top, dialog->Bounds().top) << "below the title bar";
 }
 
-TEST_F(Windows, APressGivesTheKeyboardToThoseThatTakeIt) {
-  Listener listener, taking, plain;
-  const auto window = NewWindow(listener, kOurs);
+TEST_F(OurWindow, GivesTheKeyboardToThePaneThatTakesItAndBackToIt) {
+  Listener taking, plain;
   const auto field = NewPane(*window, {0, 0, 50, 50}, taking, true);
   const auto button = NewPane(*window, {60, 0, 110, 50}, plain, false);
-  window->Show(ShowMode::Activate);
-  ASSERT_TRUE(HasForeground(*window));
   EXPECT_TRUE(window->HasFocus());
   Click(*field);
   EXPECT_TRUE(field->HasFocus());
@@ -237,53 +200,27 @@ TEST_F(Windows, APressGivesTheKeyboardToThoseThatTakeIt) {
   PressKey('B');
   EXPECT_EQ(taking.Count("key 66"), 1);
   EXPECT_EQ(taking.typed, u"b");
+  window->SetEnabled(false);
+  window->Hide();
+  Settle();
+  window->SetEnabled(true);
+  Activate(*window);
+  EXPECT_TRUE(field->HasFocus()) << "it comes back to the child that had it";
   field->SetVisible(false);
   EXPECT_FALSE(field->HasFocus());
   field->Focus();
   EXPECT_FALSE(field->HasFocus()) << "what is not seen gets no keyboard";
 }
 
-TEST_F(Windows, TheKeyboardComesBackToTheChildThatHadIt) {
-  Listener listener, taking;
-  const auto window = NewWindow(listener, kOurs);
-  const auto field = NewPane(*window, {0, 0, 50, 50}, taking, true);
-  window->Show(ShowMode::Activate);
-  ASSERT_TRUE(HasForeground(*window));
-  field->Focus();
-  window->SetEnabled(false);
-  window->Hide();
-  Settle();
-  window->SetEnabled(true);
-  window->Show(ShowMode::Activate);
-  ASSERT_TRUE(HasForeground(*window));
-  EXPECT_TRUE(field->HasFocus());
-}
-
-class PreviewListener : public Listener {
- public:
-  int taken = 0;
-  std::vector<std::pair<int, platform::Window*>> previewed;
-  void OnPreviewKey(platform::KeyEvent& event, platform::Window* focused) override {
-    previewed.emplace_back(event.virtualKey, focused);
-    event.handled = event.virtualKey == taken;
-  }
-};
-
-TEST_F(Windows, TheWindowSeesKeysBeforeItsChildren) {
-  PreviewListener listener;
+TEST_F(OurWindow, SeesKeysBeforeItsChildren) {
   Listener child;
-  const auto window = NewWindow(listener, kOurs);
   const auto field = NewPane(*window, {0, 0, 50, 50}, child, true);
-  listener.taken = 'Q';
-  window->Show(ShowMode::Activate);
-  ASSERT_TRUE(HasForeground(*window));
+  listener.keyToTake = 'Q';
   PressKey(key::kF2);
   field->Focus();
-  PressKey('Q');
-  PressKey('W');
-  const std::vector<std::pair<int, platform::Window*>> expected{
-      {key::kF2, nullptr}, {'Q', field.get()}, {'W', field.get()}};
-  EXPECT_EQ(listener.previewed, expected);
+  PressKeys({'Q', 'W'});
+  EXPECT_EQ(listener.previewed, (std::vector<std::pair<int, platform::Window*>>{
+                                    {key::kF2, nullptr}, {'Q', field.get()}, {'W', field.get()}}));
   EXPECT_EQ(child.Count("key 81"), 0);
   EXPECT_EQ(child.Count("key 87"), 1);
   EXPECT_EQ(child.typed, u"w") << "a key that is taken types nothing";
@@ -316,8 +253,8 @@ TEST_F(Windows, ShownAgainWithoutActivationOneStaysBehindWhatCameInFront) {
   Listener listener;
   for (const bool topMost : {false, true}) {
     SCOPED_TRACE(topMost ? "top-most" : "ordinary");
-    const auto free = NewWindow(listener, kOurs);
-    const auto other = NewWindow(listener, kOurs);
+    const auto free = NewWindow(listener);
+    const auto other = NewWindow(listener);
     free->SetTopMost(topMost);
     other->SetTopMost(topMost);
     const auto inFront = [&] {
@@ -341,12 +278,10 @@ TEST_F(Windows, ShownAgainWithoutActivationOneStaysBehindWhatCameInFront) {
 
 TEST_F(Windows, OneMovesWithThePointerAsByItsTitleBar) {
   Listener listener;
-  const auto dialog = desktop().windows().NewTopWindow(
-      {.frame = platform::FrameStyle::Dialog, .caption = u"Dialog"}, listener);
-  const auto plain = NewWindow(listener, kOurs);
-  dialog->SetBounds(kOurs.Moved({300, 0}));
+  const auto dialog = NewDialog(listener, kOurs.Moved({300, 0}));
+  const auto plain = NewWindow(listener);
   dialog->Show(ShowMode::Activate);
-  plain->Show(ShowMode::Activate);
+  Activate(*plain);
   int moves = 0;
   listener.onMouseDown = [&] {
     plain->ReleaseCapture();
@@ -367,11 +302,8 @@ TEST_F(Windows, OneMovesWithThePointerAsByItsTitleBar) {
 
 TEST_F(Windows, TheUsersWishToCloseIsAskedAndNoMore) {
   Listener listener;
-  const auto window = desktop().windows().NewTopWindow(
-      {.frame = platform::FrameStyle::Dialog, .caption = u"Dialog"}, listener);
-  window->SetBounds(kOurs);
-  window->Show(ShowMode::Activate);
-  ASSERT_TRUE(HasForeground(*window));
+  const auto window = NewDialog(listener);
+  Activate(*window);
   Click({kOurs.right - 12, kOurs.top + 12});
   EXPECT_EQ(listener.Count("close"), 1) << "the close box";
   under().KeyDown(key::kAlt);
@@ -381,24 +313,30 @@ TEST_F(Windows, TheUsersWishToCloseIsAskedAndNoMore) {
   EXPECT_TRUE(window->Visible());
 }
 
-TEST_F(Windows, ClosedWindowsAreHusks) {
-  Listener listener, inside;
-  const auto window = NewWindow(listener, kOurs);
-  const auto pane = NewPane(*window, {0, 0, 50, 50}, inside, true);
-  const auto box = desktop().controls().NewTextBox(*window, {0, 60, 50, 80}, {});
-  window->Show(ShowMode::Activate);
-  window->Close();
-  window->Close();
-  window->Show(ShowMode::Activate);
-  window->SetBounds({1, 2, 3, 4});
-  pane->Focus();
-  pane->Refresh();
-  box->SetText(u"x");
-  Settle();
-  EXPECT_FALSE(window->Visible());
-  EXPECT_FALSE(pane->HasFocus());
-  EXPECT_EQ(box->Text(), u"");
-  EXPECT_NE(desktop().windows().WindowAt(kOurs.Middle()), window.get());
+TEST_F(Windows, OneThatIsClosedAlsoByItsOwnHandlerLeavesHusks) {
+  for (const bool byHandler : {false, true}) {
+    SCOPED_TRACE(byHandler);
+    Listener listener, inside;
+    const auto window = NewWindow(listener);
+    const auto pane = NewPane(*window, {0, 0, 50, 50}, inside, true);
+    const auto box = desktop().controls().NewTextBox(*window, {0, 60, 50, 80}, {});
+    listener.onMouseDown = [&] { window->Close(); };
+    Activate(*window);
+    if (byHandler) Click(kOurs.Middle());
+    window->Close();
+    window->Show(ShowMode::Activate);
+    window->SetBounds({1, 2, 3, 4});
+    pane->Focus();
+    pane->SetBounds({0, 0, 5, 5});
+    pane->Refresh();
+    box->SetText(u"x");
+    Settle();
+    EXPECT_FALSE(window->Visible());
+    EXPECT_FALSE(pane->Visible());
+    EXPECT_FALSE(pane->HasFocus());
+    EXPECT_EQ(box->Text(), u"");
+    EXPECT_NE(desktop().windows().WindowAt(kOurs.Middle()), window.get());
+  }
 }
 
 TEST_F(Windows, TimersTickWhileSomebodyPumpsAndEndInTheirOwnTick) {

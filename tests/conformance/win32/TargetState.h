@@ -2,16 +2,15 @@
 // is replaced as a whole.
 #pragma once
 
-#include <fstream>
-#include <iterator>
 #include <optional>
 #include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "platform/files.h"
 #include "platform/text.h"
-#include "platform/win32/win.h"
+#include "platform/win32/wide.h"
 
 namespace conformance {
 
@@ -21,32 +20,20 @@ struct TargetState {
   friend bool operator==(const TargetState&, const TargetState&) = default;
 };
 
-// A line with the bold ranges, then the text.
-inline void WriteState(const std::wstring& path, const TargetState& state) {
+// A line with the bold ranges, then the text. False: the suite is just reading the former state.
+[[nodiscard]] inline bool WriteState(platform::Files& files, const std::u16string& path,
+                                     const TargetState& state) {
   std::string content;
   for (const auto& [first, end] : state.boldRanges) {
     content += std::to_string(first) + " " + std::to_string(end) + " ";
   }
-  content += "\n" + platform::ToUtf8(state.text);
-  const std::wstring fresh = path + L".new";
-  const HANDLE file = ::CreateFileW(fresh.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
-  if (file == INVALID_HANDLE_VALUE) return;
-  DWORD written = 0;
-  ::WriteFile(file, content.data(), static_cast<DWORD>(content.size()), &written, nullptr);
-  ::CloseHandle(file);
-  ::MoveFileExW(fresh.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING);
+  const std::u16string fresh = path + u".new";
+  (void)files.Write(fresh, content + "\n" + platform::ToUtf8(state.text));
+  return ::MoveFileExW(platform::Wide(fresh), platform::Wide(path), MOVEFILE_REPLACE_EXISTING) != 0;
 }
 
-inline std::optional<TargetState> ReadState(const std::wstring& path) {
-  const HANDLE file = ::CreateFileW(path.c_str(), GENERIC_READ,
-                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-  if (file == INVALID_HANDLE_VALUE) return std::nullopt;
-  std::string content(::GetFileSize(file, nullptr), '\0');
-  DWORD read = 0;
-  ::ReadFile(file, content.data(), static_cast<DWORD>(content.size()), &read, nullptr);
-  ::CloseHandle(file);
+inline std::optional<TargetState> ReadState(platform::Files& files, const std::u16string& path) {
+  const std::string content = files.Read(path).bytes;
   const auto lineEnd = content.find('\n');
   if (lineEnd == std::string::npos) return std::nullopt;
   TargetState state;

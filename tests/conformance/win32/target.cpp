@@ -68,9 +68,7 @@ int Run(int count, wchar_t** arguments) {
   std::optional<TargetState> told;
   const auto timer = desktop.pump().NewTimer(50, [&] {
     TargetState now = target.State();
-    if (told == now) return;
-    WriteState(arguments[5], now);
-    told = std::move(now);
+    if (told != now && WriteState(desktop.files(), Text(arguments[5]), now)) told = std::move(now);
   });
   timer->SetEnabled(true);
   while (desktop.pump().WaitAndDispatch()) {
