@@ -28,17 +28,7 @@ class Target : public platform::TopWindowEvents {
 
 class Drags : public DesktopTest {
  protected:
-  Drags() {
-    source.drags = [this] {
-      if (dragged) return;
-      dragged = true;
-      platform::DataContent content;
-      content.text = u"Größe";
-      effect = window->Drag(content, DropEffect::Copy, nullptr);
-    };
-    window = NewWindow({0, 0, 90, 90}, source);
-    window->Show(ShowMode::Activate);
-  }
+  Drags() { source.window->Show(ShowMode::Activate); }
   std::unique_ptr<platform::TopWindow> NewWindow(const Rect& bounds,
                                                  platform::TopWindowEvents& events) {
     auto made = desktop.windows().NewTopWindow({}, events);
@@ -47,17 +37,20 @@ class Drags : public DesktopTest {
   }
 
   struct Source : platform::TopWindowEvents {
+    explicit Source(Drags& test) : window(test.NewWindow({0, 0, 90, 90}, *this)) {}
     void OnMouseMove(const platform::MouseEvent& event) override {
-      if (event.left) drags();
+      if (!event.left || effect) return;
+      effect = DropEffect::None;  // one drag is enough
+      platform::DataContent content;
+      content.text = u"Größe";
+      effect = window->Drag(content, DropEffect::Copy, nullptr);
     }
-    std::function<void()> drags;
+    std::unique_ptr<platform::TopWindow> window;
+    std::optional<DropEffect> effect;
   };
 
   platform::ForeignTextEditor editor{desktop};
-  bool dragged = false;
-  DropEffect effect = DropEffect::None;
-  Source source;  // before the window that tells it things
-  std::unique_ptr<platform::TopWindow> window;
+  Source source{*this};
 };
 
 TEST_F(Drags, EnterAndLeaveEachPaneOnTheirWay) {
@@ -73,19 +66,19 @@ TEST_F(Drags, EnterAndLeaveEachPaneOnTheirWay) {
   EXPECT_EQ(right.log, "eod");
   EXPECT_EQ(right.text, u"Größe");
   EXPECT_EQ(outer.log, "") << "it takes none itself";
-  EXPECT_EQ(effect, DropEffect::Copy);
+  EXPECT_EQ(source.effect, DropEffect::Copy);
 }
 
 TEST_F(Drags, ABusyProgramTakesNothing) {
   editor.SetBusy(true);
   user.Drag({40, 40}, editor.Middle());
-  EXPECT_EQ(effect, DropEffect::None);
+  EXPECT_EQ(source.effect, DropEffect::None);
   EXPECT_EQ(editor.Text(), u"");
 }
 
 TEST_F(Drags, OfOtherProgramsArriveAtOurPanes) {
   Target target;
-  window->Hide();
+  source.window->Hide();
   const auto top = NewWindow({0, 0, 90, 90}, target);
   top->SetAcceptsDrops(true);
   top->Show(ShowMode::NoActivate);
@@ -114,7 +107,7 @@ TEST_F(Drags, ATargetThatClosesMeanwhileIsForgotten) {
   target.top->Show(ShowMode::NoActivate);
   user.Drag({40, 40}, {40, 280});
   EXPECT_EQ(target.log, "e");
-  EXPECT_EQ(effect, DropEffect::None);
+  EXPECT_EQ(source.effect, DropEffect::None);
 }
 
 }  // namespace

@@ -52,17 +52,6 @@ TEST_F(Timers, TickInsideAPumpInsideTheirOwnTick) {
   EXPECT_EQ(deepest, 3);
 }
 
-TEST_F(Timers, MayEndThemselvesInTheirTick) {
-  std::unique_ptr<platform::Timer> timer;
-  int ticks = 0;
-  timer = Start(10, [&] {
-    ++ticks;
-    timer.reset();
-  });
-  user.Wait(1s);
-  EXPECT_EQ(ticks, 1);
-}
-
 TEST_F(Timers, DoEventsReturnsThoughATickTakesLongerThanItsInterval) {
   int ticks = 0;
   const auto timer = Start(1, [&] {
