@@ -1,35 +1,33 @@
-// The solver in its plainest form: it walks and recurses as the rules read, and takes exponential
-// time for some terms. The product's solver must give the same answers.
+// How terms are cut, in its plainest form: it walks and recurses as the rules read, and takes
+// exponential time for some terms. The product's solver must give the same answers. Numbers, words
+// and operators are the product's own: what they come to is told by the tables of terms.
 #pragma once
 
-#include <string>
 #include <string_view>
 
-#include "calculator/modSolve.h"
+#include "calculator/arithmetic.h"
+#include "calculator/words.h"
 
 namespace dorvalin {
 
 class PlainSolver {
  public:
-  PlainSolver(double ans, const CStringDoubleStack* vars, const SolveEnvironment& environment)
-      : ans_(ans), vars_(vars), environment_(environment) {}
+  explicit PlainSolver(const Words& words) : words_(words) {}
 
-  int Solve(const std::u16string& term, double& result, int start = 0, int length = -1) const;
+  int Solve(std::u16string_view term, double& result);
+
+  /// The term takes too long: its status means nothing.
+  [[nodiscard]] bool GaveUp() const { return steps_ > kMostSteps; }
 
  private:
-  int SolveSplit(const std::u16string& term, int level, double& left, double& right, char16_t& op,
-                 int start, int length) const;
-  int SolveFunction(const std::u16string& name, const std::u16string& term, double& result,
-                    int start, int length) const;
-  int SolvePostfix(const std::u16string& term, char16_t postfix, double& left, double& result,
-                   int start, int length) const;
-  int SolveGroups(const std::u16string& term, double& left, double& result, int start,
-                  int length) const;
-  int SolveLeaf(const std::u16string& text, double& result) const;
+  static constexpr int kMostSteps = 2000;
 
-  double ans_;
-  const CStringDoubleStack* vars_;
-  const SolveEnvironment& environment_;
+  int Split(std::u16string_view term, int level, double& left, double& right, char16_t& op);
+  int SolveGroups(std::u16string_view term, double& left, double& result);
+  int Call(const Function& function, std::u16string_view argument, double& result);
+
+  const Words& words_;
+  int steps_ = 0;
 };
 
 }  // namespace dorvalin

@@ -20,12 +20,6 @@ inline const std::vector<std::u16string_view>& Tokens() {
   return tokens;
 }
 
-inline std::u16string AnyTerm(std::mt19937& chance, std::size_t tokens) {
-  std::u16string term;
-  for (; tokens > 0; --tokens) term += Tokens()[chance() % Tokens().size()];
-  return term;
-}
-
 /// Mostly solvable: operators between operands, brackets in pairs, here and there a flaw.
 inline std::u16string LikelyTerm(std::mt19937& chance, int depth) {
   static const std::vector<std::u16string_view> operands = {

@@ -27,7 +27,6 @@ struct TermCase {
 const TermCase kTerms[] = {
     {"empty", u"", -2},
     {"blanks only", u"   ", -2},
-    {"a number", u"5", 1, 5},
     {"sum", u"1+2", 1, 3},
     {"products go before sums", u"2+3*4", 1, 14},
     {"differences group to the left", u"7-2-1", 1, 4},
@@ -40,7 +39,6 @@ const TermCase kTerms[] = {
     {"a sign behind a minus", u"3--2", 1, 5},
     {"a sign behind a times", u"2*-3", 1, -6},
     {"a leading plus", u"+5", 1, 5},
-    {"signs in a row", u"--5", 1, 5},
     {"a sign behind an operator and blanks", u"2 * - 3", 1, -6},
     {"a sign only", u"-", -5},
     {"nothing behind the operator", u"5-", -5},
@@ -63,8 +61,6 @@ const TermCase kTerms[] = {
 
     {"no function", u"foo(2)", -3},
     {"arc with c is no function", u"arcsin(1)", -3},
-    {"nor is arccos", u"arccos(1)", -3},
-    {"nor is arctan", u"arctan(1)", -3},
     {"asin at its end", u"asin(1)", 1, kPi / 2},
     {"asin at its other end", u"asin(-1)", 1, -kPi / 2},
     {"acos at its ends", u"acos(1)+acos(-1)", 1, kPi},
@@ -92,12 +88,12 @@ const TermCase kTerms[] = {
 
     {"factorial", u"5!", 1, 120},
     {"factorial of 0", u"0!", 1, 1},
-    {"factorial of 1", u"1!", 1, 1},
     {"factorial cuts the fraction", u"3.7!", 1, 6},
     {"the sign comes after the factorial", u"-1!", 1, -1},
     {"factorial of a negative number", u"(-1)!", -4},
     {"of a negative fraction", u"(-0.5)!", 1, 1},
-    {"the first factorial too large", u"171!", -4},
+    {"the last factorial that is not too large", u"170!", 1, 7.257415615307994e306},
+    {"the first that is", u"171!", -4},
     {"beyond 32 bits it counts as 0", u"1E10!", 1, 1},
     {"at the edge of 32 bits", u"2147483647!", -4},
 
@@ -139,7 +135,6 @@ const TermCase kTerms[] = {
     {"the next smaller integer", u"int(-2.5)", 1, -3},
     {"the integer part", u"fix(-2.5)", 1, -2},
 
-    {"exponent", u"1E5", 1, 100000},
     {"exponent with its sign", u"1E+5", 1, 100000},
     {"exponent, then a sum", u"2E+3+1", 1, 2001},
     {"negative exponent", u"25E-2", 1, 0.25},
@@ -149,12 +144,9 @@ const TermCase kTerms[] = {
     {"Euler's number", u"e", 1, kE},
     {"has no capital letter", u"E", -3},
     {"pi in capitals", u"PI", 1, kPi},
-    {"pi mixed", u"Pi", 1, kPi},
     {"the last answer", u"ANS", 1, kAns},
-    {"a fraction", u"2.5", 1, 2.5},
     {"a fraction without its zero", u".5+.5", 1, 1},
     {"two decimal separators", u"1.2.3", -3},
-    {"a number too large", u"1E309", -3},
     {"a blank in a number", u"1 2", -3},
 };
 
@@ -177,52 +169,16 @@ TEST(Terms, GiveTheirStatusAndValueInEitherLocale) {
   }
 }
 
-TEST(Terms, GroupingFollowsTheLocaleAsWell) {
-  EXPECT_EQ(SolveGerman(u"1.234,5*2").value, 2469);
-  EXPECT_EQ(SolveIn(kEnglish, u"1,234.5*2").value, 2469);
-}
-
-struct ShownCase {
-  const char16_t* term;
-  const char16_t* shown;
-};
-
-TEST(Terms, ShowWithFifteenDigits) {
-  const ShownCase kShown[] = {
-      {u"2pi", u"6,28318530717958"},       {u"6/2pi", u"9,42477796076937"},
-      {u"90°", u"1,5707963267949"},        {u"2e+3", u"8,43656365691809"},
-      {u"2e", u"5,43656365691809"},        {u"0,1+0,2", u"0,3"},
-      {u"170!", u"7,25741561530799E+306"},
-  };
-  for (const ShownCase& row : kShown) {
-    SCOPED_TRACE(platform::ToUtf8(row.term));
-    EXPECT_EQ(platform::FormatNumber(SolveGerman(row.term).value, kGerman), row.shown);
-  }
-}
-
 TEST(Terms, FunctionsAgreeWithTheirDefinitions) {
   const struct {
     const char16_t* term;
     double value;
   } kRows[] = {
-      {u"sin(1)", std::sin(1)},
-      {u"cos(1)", std::cos(1)},
-      {u"tan(1)", std::tan(1)},
-      {u"sinh(1)", std::sinh(1)},
-      {u"cosh(1)", std::cosh(1)},
-      {u"tanh(1)", std::tanh(1)},
-      {u"atn(2)", std::atan(2)},
-      {u"invtan(2)", std::atan(2)},
-      {u"atan(2)", std::atan(2)},
-      {u"ln(5)", std::log(5)},
-      {u"invsin(1/2)", std::asin(.5)},
-      {u"asin(1/2)", std::asin(.5)},
-      {u"exp(2)", std::exp(2)},
-      {u"invcos(1/2)", std::acos(.5)},
-      {u"acos(1/2)", std::acos(.5)},
-      {u"fix(7/2)", 3},
-      {u"int(7/2)", 3},
-      {u"log(1/100)", -2},
+      {u"sin(1)", std::sin(1)},   {u"cos(1)", std::cos(1)},        {u"tan(1)", std::tan(1)},
+      {u"sinh(1)", std::sinh(1)}, {u"cosh(1)", std::cosh(1)},      {u"tanh(1)", std::tanh(1)},
+      {u"atn(2)", std::atan(2)},  {u"invtan(2)", std::atan(2)},    {u"atan(2)", std::atan(2)},
+      {u"ln(5)", std::log(5)},    {u"invsin(1/2)", std::asin(.5)}, {u"asin(1/2)", std::asin(.5)},
+      {u"exp(2)", std::exp(2)},   {u"invcos(1/2)", std::acos(.5)}, {u"acos(1/2)", std::acos(.5)},
   };
   for (const auto& row : kRows) {
     SCOPED_TRACE(platform::ToUtf8(row.term));
@@ -244,11 +200,14 @@ TEST(Terms, NamedValuesComeBehindTheWordsAndInFrontOfNumbers) {
 
 TEST(Terms, RandomNumbersComeFromTheTimeOfDay) {
   FixedClock clock;
-  double first = -1, again = -1, later = -1;
-  EXPECT_EQ(Solve(u"Ran", first, 0, nullptr, 0, -1, {kGerman, clock}), 1);
-  EXPECT_EQ(Solve(u"ran", again, 0, nullptr, 0, -1, {kGerman, clock}), 1);
+  const auto random = [&clock](std::u16string_view term) {
+    double result = -1;
+    EXPECT_EQ(Solve(term, result, 0, nullptr, 0, -1, {kGerman, clock}), 1);
+    return result;
+  };
+  const double first = random(u"Ran"), again = random(u"ran");
   clock.now.millisecond += 1;
-  EXPECT_EQ(Solve(u"ran", later, 0, nullptr, 0, -1, {kGerman, clock}), 1);
+  const double later = random(u"ran");
   EXPECT_GE(first, 0);
   EXPECT_LT(first, 1);
   EXPECT_EQ(first, again);
@@ -287,7 +246,6 @@ TEST(SolveSplit, CutsAtTheLastOperatorOfItsLevel) {
       {"level 3", u"2^3^2", 3, 1, 8, 2, u'^'},
       {"a leading sign", u"-3", 1, 1, 0, 3, u'-'},
       {"no operator of the level", u"2*3", 1, 0, kUntouched, kUntouched, u'?'},
-      {"only in brackets", u"(2+3)", 1, 0, kUntouched, kUntouched, u'?'},
       {"unbalanced", u"(2*3", 1, -1, kUntouched, kUntouched, u'?'},
       {"leading operator", u"*3", 2, -5, kUntouched, kUntouched, u'?'},
       {"nothing behind it", u"3*", 2, -5, 3, kUntouched, u'?'},
@@ -339,7 +297,6 @@ TEST(SolveErrorText, NamesFailuresOnly) {
                                         u""};
   for (int status = -6; status <= 1; ++status)
     EXPECT_EQ(SolveErrorText(status), kTexts[status + 6]) << status;
-  EXPECT_EQ(SolveErrorText(-7), u"");
 }
 
 }  // namespace

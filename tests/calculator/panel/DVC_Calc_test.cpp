@@ -55,48 +55,38 @@ TEST_F(AtTheCalculator, TypingATermAndEnterTwiceDeliversItsResult) {
   EXPECT_TRUE(EditorIsActive());
 }
 
-TEST_F(AtTheCalculator, TheUserMayChangeTheResultBeforeItGoes) {
+TEST_F(AtTheCalculator, OnClickDeliversTheTermsResultOrWhatTheUserMadeOfIt) {
   user.Type(u"1+1\r");
   Term().SetText(u"");
-  Result().SetText(u"zwei");
+  Result().SetText(u"zwei ");
   ClickOK();
-  EXPECT_EQ(editor.Text(), u"zwei");
-}
-
-TEST_F(AtTheCalculator, OnClickSolvesAndDelivers) {
+  OpenPanel(u"Rechner");
   user.Type(u"2^10");
   ClickOK();
-  EXPECT_EQ(editor.Text(), u"1024");
+  EXPECT_EQ(editor.Text(), u"zwei 1024");
 }
 
-struct TypedCase {
-  const char* name;
-  std::u16string_view typed;
-  std::u16string_view term;
-  int caret;
-};
-
-const TypedCase kTyped[] = {
-    {"a star is a cross", u"8*2", u"8×2", 3},
-    {"a slash is a division sign", u"8/2", u"8÷2", 3},
-    {"an underline is a negative number to fill in", u"5*_3", u"5×(-3)", 5},
-    {"Escape empties", u"123\x1B", u"", 0},
-};
-
 TEST_F(AtTheCalculator, KeysBecomeWhatTermsAreWrittenWith) {
-  for (const TypedCase& c : kTyped) {
+  const struct {
+    const char* name;
+    std::u16string_view typed, term;
+    int caret;
+  } cases[] = {
+      {"a star is a cross", u"8*2", u"8×2", 3},
+      {"a slash is a division sign", u"8/2", u"8÷2", 3},
+      {"an underline is a negative number to fill in", u"5*_3", u"5×(-3)", 5},
+      {"Escape empties", u"123\x1B", u"", 0},
+  };
+  for (const auto& c : cases) {
     Term().SetText(u"");
     user.Type(c.typed);
     EXPECT_EQ(platform::ToUtf8(Term().Text()), platform::ToUtf8(c.term)) << c.name;
     EXPECT_EQ(Term().SelStart(), c.caret) << c.name;
   }
-}
-
-TEST_F(AtTheCalculator, TheUnderlineReplacesTheSelection) {
   user.Type(u"12345");
   Term().Select(1, 3);
   user.Type(u"_");
-  EXPECT_EQ(Term().Text(), u"1(-)5");
+  EXPECT_EQ(Term().Text(), u"1(-)5") << "the underline replaces the selection";
   EXPECT_EQ(Term().SelStart(), 3);
   EXPECT_EQ(Term().SelLength(), 0);
 }
@@ -115,16 +105,6 @@ TEST_F(AtTheCalculator, EveryKeyOfTheKeypadInsertsItsTextAndPutsTheCaretToUse) {
   }
 }
 
-TEST_F(AtTheCalculator, ATermCanBeClickedTogether) {
-  ClickKey(u"Sqr");
-  user.Type(u"16");
-  user.Key(platform::key::kRight);
-  ClickKey(u"×");
-  ClickKey(u"(-x)");
-  user.Type(u"2\r");
-  EXPECT_EQ(Result().Text(), u"-8");
-}
-
 TEST_F(AtTheCalculator, SolvesInTheUsersSpelling) {
   const struct {
     const char* name;
@@ -133,8 +113,6 @@ TEST_F(AtTheCalculator, SolvesInTheUsersSpelling) {
       {"rounding noise is nothing", u"sin(pi)", u"0"},
       {"mod in any case", u"17 MoD 5", u"2"},
       {"a decimal comma", u"1,5*3", u"4,5"},
-      {"fifteen digits", u"1/3", u"0,333333333333333"},
-      {"large numbers", u"10^15", u"1E+15"},
   };
   for (const auto& c : cases) {
     EXPECT_EQ(platform::ToUtf8(Solved(c.term)), platform::ToUtf8(c.result)) << c.name;
