@@ -1,9 +1,6 @@
 // The palettes that the user finds at the first start.
 
-#include <set>
-
 #include "colours/CPalette.h"
-#include "colours/notations.h"
 #include "platform/text.h"
 #include "tests/support/WithData.h"
 #include "tests/support/delivered.h"
@@ -20,17 +17,6 @@ class DeliveredPalettes : public WithData {
     InitPalettes();
     for (const auto& palette : Palettes()) palette->Init();
   }
-
-  std::vector<Rgb> ColorsOf(std::u16string_view title) {
-    std::vector<Rgb> colors;
-    for (const auto& palette : Palettes()) {
-      for (int i = 1; palette->Title == title && i <= palette->Colors->Count(); ++i) {
-        const auto field = palette->Colors->Item(i);
-        if (field != kEmptyField) colors.push_back(Rgb::Of(field));
-      }
-    }
-    return colors;
-  }
 };
 
 TEST_F(DeliveredPalettes, AreSeededAndFillWholeRowsOfThePanel) {
@@ -46,24 +32,6 @@ TEST_F(DeliveredPalettes, AreSeededAndFillWholeRowsOfThePanel) {
     }
   }
   EXPECT_TRUE(Messages().empty());
-}
-
-TEST_F(DeliveredPalettes, HoldWhatTheirNamesSay) {
-  std::set<std::int32_t> web;
-  for (const Rgb color : ColorsOf(u"Webfarben")) {
-    EXPECT_TRUE(color.r % 51 == 0 && color.g % 51 == 0 && color.b % 51 == 0);
-    web.insert(color.Value());
-  }
-  EXPECT_EQ(web.size(), 216u);
-
-  const auto greys = ColorsOf(u"Graustufen");
-  EXPECT_EQ(greys.front(), (Rgb{255, 255, 255}));
-  EXPECT_EQ(greys.back(), (Rgb{0, 0, 0}));
-  for (std::size_t i = 1; i < greys.size(); ++i) {
-    EXPECT_TRUE(greys[i].r == greys[i].g && greys[i].g == greys[i].b);
-    EXPECT_LT(greys[i].r, greys[i - 1].r);
-  }
-  for (const Rgb color : ColorsOf(u"Pastell")) EXPECT_GT(color.r + color.g + color.b, 3 * 150);
 }
 
 }  // namespace
