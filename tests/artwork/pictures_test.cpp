@@ -49,88 +49,81 @@ TEST(Pictures, AreReadTheRightWayUp) {
 
 class Bubbles : public testing::Test {
  protected:
-  Pixel Soft(Point p) const { return sheet.At(p); }
-  Pixel Hard(Point p) const { return sheet.At({p.x + 2 * kCell, p.y}); }
   const Surface sheet = PictureSurface(Picture::picSrc);
   const Surface strip = PictureSurface(Picture::picComm);
 };
 
 TEST_F(Bubbles, AreSolidInTheMiddleAndGoneInTheCorners) {
-  for (Point corner : {Point{0, 0}, Point{31, 0}, Point{0, 31}, Point{31, 31}})
-    EXPECT_EQ(Soft(corner), kBlack);
   ForCell(kCell, [&](Point p) {
-    EXPECT_TRUE(IsGrey(Soft(p))) << p.x << ", " << p.y;
-    const int dx = 2 * p.x - 31, dy = 2 * p.y - 31;
-    if (dx * dx + dy * dy > 26 * 26) return;
-    EXPECT_EQ(Soft(p), kWhite) << p.x << ", " << p.y;
-  });
-}
-
-TEST_F(Bubbles, HardMaskKeepsTheBackgroundExactlyWhereTheSoftOneIsFaint) {
-  ForCell(kCell, [&](Point p) {
-    EXPECT_EQ(Hard(p), (Soft(p) & 0xFF) < 128 ? kWhite : kBlack) << p.x << ", " << p.y;
+    SCOPED_TRACE(testing::Message() << p.x << ", " << p.y);
+    const Pixel soft = sheet.At(p), hard = sheet.At({p.x + 2 * kCell, p.y});
+    const int dx = 2 * p.x - 31, dy = 2 * p.y - 31, reach = dx * dx + dy * dy;
+    EXPECT_TRUE(IsGrey(soft));
+    EXPECT_TRUE(soft == kWhite || reach > 26 * 26);
+    EXPECT_TRUE(soft == kBlack || reach < 2 * 31 * 31);
+    EXPECT_EQ(hard, (soft & 0xFF) < 128 ? kWhite : kBlack)
+        << "keeps the background where it is faint";
   });
 }
 
 // A drawing that reaches over the rim would be cut off by the mask.
 TEST_F(Bubbles, NoDrawingReachesBeyondTheMask) {
   for (int column = 0; column < 3; ++column) {
-    const Pixel halo = sheet.At({column * kCell, kCell});
-    const auto expect_halo = [&](const Surface& surface, int row) {
-      ForCell(kCell, [&](Point p) {
-        if (Soft(p) != kBlack) return;
-        EXPECT_EQ(surface.At({column * kCell + p.x, row * kCell + p.y}), halo)
+    const Point origin{column * kCell, 0};
+    const Pixel halo = sheet.At(origin + Point{0, kCell});
+    ForCell(kCell, [&](Point p) {
+      if (sheet.At(p) != kBlack) return;
+      EXPECT_EQ(strip.At(origin + p), halo) << "at " << p.x << ", " << p.y;
+      for (int row = 1; row <= 8; ++row) {
+        EXPECT_EQ(sheet.At(origin + p + Point{0, row * kCell}), halo)
             << "row " << row << ", column " << column << " at " << p.x << ", " << p.y;
-      });
-    };
-    for (int row = 1; row <= 8; ++row) expect_halo(sheet, row);
-    expect_halo(strip, 0);
+      }
+    });
   }
 }
 
-int DifferingPixels(const Surface& surface, Point a, Point b) {
-  int count = 0;
-  ForCell(kCell, [&](Point p) { count += surface.At(a + p) != surface.At(b + p); });
-  return count;
-}
-
 TEST_F(Bubbles, NoTwoLookAlike) {
+  const auto differing = [this](Point a, Point b) {
+    int count = 0;
+    ForCell(kCell, [&](Point p) { count += sheet.At(a + p) != sheet.At(b + p); });
+    return count;
+  };
   for (int row = 1; row <= 8; ++row) {
     for (int column = 0; column < 3; ++column) {
       const Point here{column * kCell, row * kCell};
       const Point next_state{(column + 1) % 3 * kCell, row * kCell};
       const Point next_function{column * kCell, row % 8 * kCell + kCell};
-      EXPECT_GT(DifferingPixels(sheet, here, next_state), 400) << row << ", " << column;
-      EXPECT_GT(DifferingPixels(sheet, here, next_function), 100) << row << ", " << column;
+      EXPECT_GT(differing(here, next_state), 400) << row << ", " << column;
+      EXPECT_GT(differing(here, next_function), 100) << row << ", " << column;
     }
   }
 }
 
-struct Sprite {
-  const char* label;
-  Size size;
-  Point mask, image;
-};
-constexpr Sprite kSprites[] = {
-    {"up arrow", {15, 8}, {15, 7}, {0, 7}},
-    {"down arrow", {15, 8}, {15, 15}, {0, 15}},
-    {"bullet", {7, 7}, {7, 0}, {0, 0}},
-    {"check mark", {15, 16}, {15, 23}, {0, 23}},
-};
-
 // Where the mask keeps the background, an image that is not black would invert it.
 TEST(Dots, EveryImageIsBlackWhereItsMaskIsWhite) {
+  const struct {
+    const char* label;
+    Size size;
+    Point mask, image;
+  } kSprites[] = {
+      {"up arrow", {15, 8}, {15, 7}, {0, 7}},
+      {"down arrow", {15, 8}, {15, 15}, {0, 15}},
+      {"bullet", {7, 7}, {7, 0}, {0, 0}},
+      {"check mark", {15, 16}, {15, 23}, {0, 23}},
+  };
   const Surface sheet = PictureSurface(Picture::picDot);
-  for (const Sprite& sprite : kSprites) {
-    int shown = 0;
-    ForCell(16, [&](Point p) {
-      if (p.x >= sprite.size.width || p.y >= sprite.size.height) return;
-      const Pixel mask = sheet.At(sprite.mask + p), image = sheet.At(sprite.image + p);
-      EXPECT_TRUE(mask == kBlack || mask == kWhite) << sprite.label;
-      EXPECT_EQ(image & mask, kBlack) << sprite.label << " at " << p.x << ", " << p.y;
-      shown += mask == kBlack;
-    });
-    EXPECT_GT(shown, sprite.size.width * sprite.size.height / 6) << sprite.label;
+  for (const auto& sprite : kSprites) {
+    bool shown = false;
+    for (int y = 0; y < sprite.size.height; ++y) {
+      for (int x = 0; x < sprite.size.width; ++x) {
+        const Pixel mask = sheet.At(sprite.mask + Point{x, y});
+        const Pixel image = sheet.At(sprite.image + Point{x, y});
+        EXPECT_TRUE(mask == kBlack || mask == kWhite) << sprite.label;
+        EXPECT_EQ(image & mask, kBlack) << sprite.label << " at " << x << ", " << y;
+        shown |= mask == kBlack;
+      }
+    }
+    EXPECT_TRUE(shown) << sprite.label;
   }
 }
 
@@ -144,39 +137,17 @@ TEST(Fade, RisesToTheMiddleAndFallsBehindIt) {
   }
 }
 
-struct Border {
-  Surface picture;
-  int top, height, left, upper, right, lower;
-};
-
 // What is stretched along an edge must not change along it, or it would smear.
-void ExpectEvenEdges(const Border& b) {
-  const Surface& s = b.picture;
-  for (int x = b.left; x < s.Width() - b.right; ++x)
-    for (int y = b.top; y < b.top + b.height; ++y)
-      EXPECT_EQ(s.At({x, y}), s.At({b.left, y})) << "at " << x << ", " << y;
+void ExpectEvenEdges(Picture which, int top, int height, int left, int right) {
+  const Surface s = PictureSurface(which);
+  for (int x = left; x < s.Width() - right; ++x)
+    for (int y = top; y < top + height; ++y)
+      EXPECT_EQ(s.At({x, y}), s.At({left, y})) << "at " << x << ", " << y;
 }
 
-TEST(Buttons, StretchSidewaysWithoutSmearing) {
-  for (int top : {0, 60, 90, 120})
-    ExpectEvenEdges({PictureSurface(Picture::picButtons), top, 30, 6, 6, 6, 8});
-  for (int top : {30, 150})
-    ExpectEvenEdges({PictureSurface(Picture::picButtons), top, 30, 6, 8, 6, 6});
-}
-
-TEST(RoundedFrame, LeavesTheMiddleAndTheCornersToTheFace) {
-  const Surface mask = PictureSurface(Picture::ctlRoundBrdMask);
-  ExpectEvenEdges({mask.Clone(), 0, 80, 10, 10, 11, 11});
-  for (Point corner : {Point{0, 0}, Point{79, 0}, Point{0, 79}, Point{79, 79}})
-    EXPECT_EQ(mask.At(corner), kWhite);
-  for (int y = 10; y < 70; ++y)
-    for (int x = 10; x < 70; ++x) EXPECT_EQ(mask.At({x, y}), kWhite) << x << ", " << y;
-  const Pixel kLine[] = {0x7F7F7F, kBlack, 0x7F7F7F, kWhite};
-  for (int depth = 0; depth < 4; ++depth) {
-    for (Point p :
-         {Point{40, depth}, Point{depth, 40}, Point{40, 79 - depth}, Point{79 - depth, 40}})
-      EXPECT_EQ(mask.At(p), kLine[depth]) << "at " << p.x << ", " << p.y;
-  }
+TEST(Borders, StretchSidewaysWithoutSmearing) {
+  for (int top = 0; top < 180; top += 30) ExpectEvenEdges(Picture::picButtons, top, 30, 6, 6);
+  ExpectEvenEdges(Picture::ctlRoundBrdMask, 0, 80, 10, 11);
 }
 
 bool HasInk(const platform::Icon& icon) {
@@ -197,6 +168,8 @@ TEST(Icons, HoldEachOfTheirSizes) {
   }
   EXPECT_TRUE(PictureIcon(Picture::imgPicker, 16));
   EXPECT_FALSE(PictureIcon(Picture::imgPicker, 32));
+  EXPECT_FALSE(PictureIcon(Picture::picSrc, 32)) << "a bitmap holds none";
+  EXPECT_TRUE(PictureSurface(Picture::icoBold).Empty()) << "and an icon no bitmap";
 }
 
 TEST(Icons, LinkOverlaysLeaveAllButTheLowerLeftToWhatTheyLieOn) {
@@ -222,11 +195,6 @@ TEST(Pointers, PointWithAPixelThatIsSeen) {
     EXPECT_GT(image->pixels[y * 32 + x] >> 24, 0x7Fu) << "pointer " << int(which);
   }
   EXPECT_FALSE(HasInk(PictureIcon(Picture::curEmpty, 32)));
-}
-
-TEST(Pictures, AreOnlyWhatTheyAre) {
-  EXPECT_TRUE(PictureSurface(Picture::icoBold).Empty());
-  EXPECT_FALSE(PictureIcon(Picture::picSrc, 32));
 }
 
 }  // namespace

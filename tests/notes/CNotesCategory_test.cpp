@@ -175,7 +175,7 @@ TEST_F(Category, NoSingleFailureLosesTheFile) {
   }
 }
 
-class Store : public WithData {};
+using Store = WithData;
 
 TEST_F(Store, LiesInTheApplicationDataOrBesideMerrowe) {
   EXPECT_EQ(NotesFolder(), u"");
@@ -198,12 +198,6 @@ TEST_F(Store, LiesInTheApplicationDataOrBesideMerrowe) {
     FindNotesFolder();
     EXPECT_EQ(NotesFolder(), u"C:\\Merrowe\\Notes\\");
   }
-}
-
-TEST_F(Store, AFileInItsPlaceIsNoStore) {
-  files.Put(u"C:\\Benutzer\\Anna\\Anwendungsdaten\\Tolvo\\Merrowe\\Notes", "x");
-  FindNotesFolder();
-  EXPECT_EQ(NotesFolder(), kNoNotesFolder);
 }
 
 }  // namespace
