@@ -193,14 +193,6 @@ TEST_F(PaletteFolder, LiesBesideTheProgramWhereNoApplicationDataAreKnown) {
   EXPECT_EQ(Titles(), Texts{u"Pastell"});
 }
 
-TEST_F(PaletteFolder, StaysEmptyWithoutAWordWhenItCannotBeMade) {
-  faults.FailAlways("Files.CreateFolder");
-  faults.FailAlways("Shell.CopyFiles");
-  InitPalettes();
-  EXPECT_EQ(Titles(), Texts{});
-  EXPECT_TRUE(Messages().empty());
-}
-
 TEST(ColorClip, CarriesThreeBytesRedFirst) {
   EXPECT_EQ(ColorClipData(0x030201), "\x01\x02\x03");
   EXPECT_EQ(ColorFromClipData("\x01\x02\xFF"), 0xFF0201);

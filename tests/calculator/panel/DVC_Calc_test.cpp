@@ -105,6 +105,16 @@ TEST_F(AtTheCalculator, EveryKeyOfTheKeypadInsertsItsTextAndPutsTheCaretToUse) {
   }
 }
 
+TEST_F(AtTheCalculator, ATermCanBeClickedTogether) {
+  ClickKey(u"Sqr");
+  user.Type(u"16");
+  user.Key(platform::key::kRight);
+  ClickKey(u"×");
+  ClickKey(u"(-x)");
+  user.Type(u"2\r");
+  EXPECT_EQ(Result().Text(), u"-8");
+}
+
 TEST_F(AtTheCalculator, SolvesInTheUsersSpelling) {
   const struct {
     const char* name;
