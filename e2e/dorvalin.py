@@ -1,18 +1,12 @@
 """Dorvalin as its user meets it: the program running on a stage, its wheel, sidebar and panels."""
 
-import contextlib
 import time
 
 from stage import StageTest
-from wheel import BUBBLES, PROGRAM, Wheel, find_column, find_panel, find_wheel
+from wheel import PROGRAM, find_panel, find_wheel, open_wheel
 
 KEY = r"HKCU\Software\Tolvo\Dorvalin"
 CALCULATOR = 3
-HOLD = 15  # seconds after which a held gesture counts as not recognised on a busy machine
-
-DEFAULTS = {"FirstStart": "NO", "LastFunction": CALCULATOR}
-# The edge window then answers clicks alone.
-SETTINGS = {"RightBarMode": 1}
 
 
 class DorvalinTest(StageTest):
@@ -21,12 +15,10 @@ class DorvalinTest(StageTest):
     def setUp(self):
         super().setUp()
         self.editor = self.stage.open_editor()
-        for key in ("", r"\Access", r"\Settings", r"\DontShowAgain"):
-            with contextlib.suppress(AssertionError):
-                for name in self.stage.registry.values(KEY + key):
-                    self.stage.registry.delete(KEY + key, name)
-        self.store("", **DEFAULTS)
-        self.store(r"\Settings", **SETTINGS)
+        self.stage.registry.delete(KEY)
+        self.store("", FirstStart="NO", LastFunction=CALCULATOR)
+        # The edge window then answers clicks alone.
+        self.store(r"\Settings", RightBarMode=1)
 
     def store(self, subkey, **values):
         for name, value in values.items():
@@ -37,33 +29,23 @@ class DorvalinTest(StageTest):
         self.store(r"\Access", **(access or {}))
         self.store(r"\Settings", **(settings or {}))
         self.program = self.stage.start_dorvalin()
-        # The last thing that a start does is to put up the edge window.
-        self.stage.wait_for(self.edge, "the program is resident", seconds=30)
+        # The last thing that a start does is to put up the sidebar's edge window, one pixel wide.
+        self.stage.wait_for(lambda: any(w.width == 1 for w in self.stage.windows(program=PROGRAM)),
+                            "the program is resident", seconds=30)
 
     # What the user does
 
-    @contextlib.contextmanager
-    def holding(self, *buttons):
-        for button in buttons:
-            self.stage.pointer.press(button)
-        try:
-            yield
-        finally:
-            for button in reversed(buttons):
-                self.stage.pointer.release(button)
-
     def call_wheel(self, x, y, *buttons, active="Rechner"):
         """Holds the buttons (the middle one) at a point until the wheel stands with its panel."""
-        self.stage.pointer.move_to(x, y)
-        with self.holding(*(buttons or ("middle",))):
-            self.stage.wait_for(lambda: find_wheel(self.stage), "the wheel opens under the held button", HOLD)
-        return self.opened_wheel(active)
+        return open_wheel(self.stage, x, y, active, buttons or ("middle",))
 
-    def opened_wheel(self, active="Rechner"):
-        self.stage.wait_for(lambda: self.stage.foreground() == find_panel(self.stage) is not None,
-                            "the panel of the last function has the keys")
+    def set_free(self):
+        panel = find_panel(self.stage)
+        # Free is the second button from the right in the row at the top.
+        self.stage.pointer.click(panel.rect[2] - 30, panel.rect[1] + 11)
+        self.stage.wait_for(lambda: find_wheel(self.stage) is None, "the wheel goes")
         self.stage.wait_until_still()
-        return Wheel(self.stage, find_wheel(self.stage), active)
+        return panel
 
     def calculate(self, term):
         """Types a term, has it solved, and sends the result."""
@@ -81,20 +63,13 @@ class DorvalinTest(StageTest):
 
     def fields(self):
         panel = find_panel(self.stage)
-        return [c for c in panel.children(visible=True) if c.class_name == "Edit"] if panel else []
+        return panel.children(visible=True, class_name="Edit") if panel else []
 
     def term_field(self):
         return self.fields()[0]
 
     def result_field(self):
         return self.fields()[1]
-
-    def edge(self):
-        """The sidebar's edge window, one pixel wide, or None."""
-        return next((w for w in self.stage.windows(program=PROGRAM) if w.width == 1), None)
-
-    def column(self):
-        return find_column(self.stage)
 
     def expect_arrived(self, text):
         self.editor.wait_for_text(text, seconds=10)
@@ -103,9 +78,3 @@ class DorvalinTest(StageTest):
     def expect_no_window(self):
         self.stage.wait_for(lambda: all(w.width == 1 for w in self.stage.windows(program=PROGRAM)),
                             "wheel and panel are gone")
-
-
-def bubble_of_column(column, caption, active):
-    """The middle of a bubble of the sidebar's column, on the screen."""
-    left, top = column.rect[:2]
-    return left + (16 if caption == active else 26), top + 40 * BUBBLES.index(caption) + 16

@@ -1,6 +1,7 @@
 """What ./run starts: Dorvalin for a person at this display, or, where there is no display, its main
 job done on a virtual screen: show.py [DISPLAY]"""
 
+import itertools
 import sys
 
 from stage import Stage
@@ -21,63 +22,40 @@ def show_to_a_person(display):
 
 
 def show_the_main_job():
+    """A calculation typed into the user's text, step by step, each with its picture."""
+    numbers = itertools.count(1)
+
+    def tell(what, name):
+        stage.wait_until_still()
+        stage.screenshot(f"run-{next(numbers)}-{name}")
+        print(f"   {what}", flush=True)
+
     with Stage() as stage:
         # The welcome window would stand over the editor.
         stage.registry.set(KEY, "FirstStart", "NO")
         editor = stage.open_editor()
         stage.start_dorvalin()
-        steps = MainJob(stage, editor)
-        steps.call_the_wheel()
-        steps.open_the_calculator()
-        steps.solve()
-        steps.send()
-        steps.reach_the_sidebar()
+
+        wheel = open_wheel(stage, *editor.middle)
+        tell("The middle button, held over the editor, opened the wheel", "wheel")
+        panel = wheel.choose("Rechner")
+        tell(f"A click on \"Rechner\" opened its panel, {panel.width} x {panel.height}", "calculator")
+        stage.keyboard.type("6*7")
+        stage.keyboard.press("Return")
+        tell("\"6*7\" and Enter were typed", "result")
+        stage.keyboard.press("Return")
+        editor.wait_for_text("42", seconds=10)
+        tell("Enter sent the result to the editor", "arrived")
+
+        right, bottom = SCREEN_SIZE
+        stage.pointer.move_to(right - 30, bottom // 2)
+        stage.pointer.move_to(right - 1, bottom // 2)
+        stage.wait_for(lambda: find_column(stage) and find_panel(stage), "the sidebar opens", 15)
+        tell("The pointer at the right edge opened the sidebar, with the last panel", "sidebar")
+
         print(f"In the editor arrived: {editor.text!r}")
         print(f"Screenshots: {SCREENSHOTS.relative_to(ROOT)}/run-*.png")
     return 0
-
-
-class MainJob:
-    """A calculation typed into the user's text, step by step, each with its picture."""
-
-    def __init__(self, stage, editor):
-        self.stage = stage
-        self.editor = editor
-        self.wheel = None
-        self.count = 0
-
-    def call_the_wheel(self):
-        self.wheel = open_wheel(self.stage, *self.editor.middle)
-        self._tell("The middle button, held over the editor, opened the wheel", "wheel")
-
-    def open_the_calculator(self):
-        panel = self.wheel.choose("Rechner")
-        self._tell(f"A click on \"Rechner\" opened its panel, {panel.width} x {panel.height}", "calculator")
-
-    def solve(self):
-        self.stage.keyboard.type("6*7")
-        self.stage.keyboard.press("Return")
-        self.stage.wait_until_still()
-        self._tell("\"6*7\" and Enter were typed", "result")
-
-    def send(self):
-        self.stage.keyboard.press("Return")
-        self.editor.wait_for_text("42", seconds=10)
-        self.stage.wait_until_still()
-        self._tell("Enter sent the result to the editor", "arrived")
-
-    def reach_the_sidebar(self):
-        right, bottom = SCREEN_SIZE
-        self.stage.pointer.move_to(right - 30, bottom // 2)
-        self.stage.pointer.move_to(right - 1, bottom // 2)
-        self.stage.wait_for(lambda: find_column(self.stage) and find_panel(self.stage), "the sidebar opens", 15)
-        self.stage.wait_until_still()
-        self._tell("The pointer at the right edge opened the sidebar, with the last panel", "sidebar")
-
-    def _tell(self, what, name):
-        self.count += 1
-        self.stage.screenshot(f"run-{self.count}-{name}")
-        print(f"   {what}", flush=True)
 
 
 if __name__ == "__main__":

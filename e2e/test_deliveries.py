@@ -3,7 +3,7 @@
 import random
 
 from dorvalin import DorvalinTest
-from wheel import find_panel, find_wheel
+from wheel import find_panel
 
 DELIVERIES = 200
 LONGEST = 60
@@ -15,10 +15,7 @@ class Deliveries(DorvalinTest):
     def free_host(self):
         self.start(settings={"WaitBeforeSend": 100})
         self.call_wheel(*self.editor.middle)
-        panel = find_panel(self.stage)
-        self.stage.pointer.click(panel.rect[2] - 30, panel.rect[1] + 11)
-        self.stage.wait_for(lambda: find_wheel(self.stage) is None, "the wheel goes")
-        self.stage.wait_until_still()
+        panel = self.set_free()
         self.result = self.result_field()
         self.title_row = panel.middle[0], panel.rect[1] + 11
         self.face = self.stage.pixel(*self.title_row)

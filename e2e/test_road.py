@@ -1,12 +1,13 @@
 """The road of a request: from a held button to text in the user's window."""
 
-from dorvalin import DorvalinTest, bubble_of_column
-from wheel import PROGRAM, find_panel, find_wheel
+from dorvalin import DorvalinTest
+from stage.ground import SCREEN_SIZE
+from wheel import PROGRAM, bubble_of_column, find_column, find_panel, find_wheel, opened_wheel
 
 ONLY = {"BothBtn": 0, "MiddleBtn": 0, "RightBtn": 0, "LeftBtn": 0, "ScrollKey": 0}
 
 
-class Gestures(DorvalinTest):
+class Ring(DorvalinTest):
     def beside_the_text(self):
         """In the editor's status bar. A display gives the release of a button to the window that saw the
         press, even when the wheel covers it: the text itself would open its menu."""
@@ -49,7 +50,7 @@ class Gestures(DorvalinTest):
         self.stage.wait_for(lambda: find_panel(self.stage) == self.stage.foreground() is not None,
                             "the wheel opens", 15)
         self.stage.keyboard.release("Scroll_Lock")
-        self.opened_wheel()
+        opened_wheel(self.stage, "Rechner")
         self.assertEqual(self.stage.scroll_lock(), lamp)
         self.calculate("6*7")
         self.expect_arrived("42")
@@ -60,7 +61,7 @@ class Gestures(DorvalinTest):
         for buttons in (("left", "right"), ("middle",), ("right",)):
             with self.subTest(buttons):
                 self.stage.pointer.move_to(x, y)
-                with self.holding(*buttons):
+                with self.stage.pointer.holding(*buttons):
                     # The first tick of a hold has noted the place before the pointer moves.
                     self.pause(0.2)
                     self.stage.pointer.move_by(4, 3)
@@ -68,7 +69,22 @@ class Gestures(DorvalinTest):
                     self.assertIsNone(find_wheel(self.stage))
                 self.stage.keyboard.press("Escape")  # what the release of a button may have opened
 
-    def test_a_click_elsewhere_closes_the_wheel_but_the_gestures_own_release_does_not(self):
+    def test_wheel_and_panel_are_wholly_visible_in_every_corner(self):
+        self.start()
+        self.editor.close()
+        right, bottom = SCREEN_SIZE
+        for x, y in ((2, 2), (right - 3, 2), (2, bottom - 3), (right - 3, bottom - 3)):
+            with self.subTest(x=x, y=y):
+                wheel = self.call_wheel(x, y).window
+                for window in (wheel, find_panel(self.stage)):
+                    left, top = window.rect[:2]
+                    self.assertTrue(0 <= left <= right - window.width and 0 <= top <= bottom - window.height, window)
+                self.stage.screenshot(f"place-{x}-{y}")
+                self.stage.keyboard.press("Escape")
+                self.stage.pointer.click(*wheel.middle)
+                self.expect_no_window()
+
+    def test_a_click_elsewhere_and_on_the_middle_close_the_wheel_but_not_the_gestures_own_release(self):
         self.start()
         self.call_wheel(*self.editor.middle)
         self.pause(0.5)
@@ -77,29 +93,10 @@ class Gestures(DorvalinTest):
         self.stage.pointer.click(left + 20, top + 20)
         self.expect_no_window()
 
-    def test_closing_the_wheel_gives_the_focus_back(self):
-        self.start()
         wheel = self.call_wheel(*self.editor.middle)
         self.stage.pointer.click(*wheel.window.middle)
         self.expect_no_window()
         self.stage.wait_for(lambda: self.stage.foreground() == self.editor.window, "the editor has the focus")
-
-
-class Host(DorvalinTest):
-    def test_set_free_it_delivers_three_times_and_stays(self):
-        self.start()
-        wheel = self.call_wheel(*self.editor.middle)
-        panel = find_panel(self.stage)
-        # Free is the second button from the right in the row at the top.
-        self.stage.pointer.click(panel.rect[2] - 30, panel.rect[1] + 11)
-        self.stage.wait_for(lambda: find_wheel(self.stage) is None, "the wheel goes")
-        self.assertIsNotNone(wheel)
-        for time in range(1, 4):
-            self.stage.pointer.click(*self.term_field().middle)
-            self.calculate("6*7")
-            self.expect_arrived("42" * time)
-            self.stage.wait_for(lambda: find_panel(self.stage) == panel, "the panel stays")
-            self.stage.wait_until_still()
 
     def test_with_stay_after_send_it_stands_free_without_the_focus(self):
         self.start(settings={"StayAfterSend": 1})
@@ -119,37 +116,29 @@ class Sidebar(DorvalinTest):
         self.stage.pointer.move_to(1023, 400)
         if click:
             self.pause(0.6)
-            self.assertIsNone(self.column())
+            self.assertIsNone(find_column(self.stage))
             self.stage.pointer.click()
-        self.stage.wait_for(lambda: self.column() and self.fields(), "the column opens with its panel", 15)
+        self.stage.wait_for(lambda: find_column(self.stage) and self.fields(), "the column opens with its panel", 15)
         self.stage.wait_until_still()
+        self.assertEqual(self.stage.foreground(), self.editor.window, "the target keeps the focus")
 
-    def expect_road_in_mode(self, mode):
-        self.start(settings={"RightBarMode": mode})
-        self.reach_edge(click=mode == 1)
-        self.assertEqual(self.stage.foreground(), self.editor.window)
-        self.stage.screenshot(f"sidebar-{mode}")
-        self.stage.pointer.click(*self.term_field().middle)
-        self.calculate("6*7")
-        self.expect_arrived("42")
-        self.expect_no_window()
-
-    def test_contact_with_the_edge_opens_the_column_and_the_target_keeps_the_focus(self):
-        self.expect_road_in_mode(0)
-
-    def test_a_click_at_the_edge_opens_the_column_and_the_target_keeps_the_focus(self):
-        self.expect_road_in_mode(1)
-
-    def test_a_rest_at_the_edge_opens_the_column_and_the_target_keeps_the_focus(self):
-        self.expect_road_in_mode(2)
-
-    def test_another_bubble_opens_its_panel_and_leaving_closes(self):
+    def test_contact_with_the_edge_opens_the_column_another_bubble_its_panel_and_leaving_closes(self):
         self.start(settings={"RightBarMode": 0})
         self.reach_edge(click=False)
         panel = find_panel(self.stage)
-        self.stage.pointer.click(*bubble_of_column(self.column(), "Zeichen", "Rechner"))
+        self.stage.screenshot("sidebar-contact")
+        self.stage.pointer.click(*bubble_of_column(find_column(self.stage), "Zeichen", active="Rechner"))
         self.stage.wait_for(lambda: find_panel(self.stage) not in (None, panel), "another panel opens")
         self.stage.pointer.move_to(100, 100)
+        self.expect_no_window()
+
+    def test_a_click_at_the_edge_opens_the_column_and_a_result_arrives(self):
+        self.start()
+        self.reach_edge(click=True)
+        self.stage.screenshot("sidebar-click")
+        self.stage.pointer.click(*self.term_field().middle)
+        self.calculate("6*7")
+        self.expect_arrived("42")
         self.expect_no_window()
 
     def test_the_ring_flies_into_the_column_with_its_panel(self):
@@ -158,7 +147,8 @@ class Sidebar(DorvalinTest):
         self.stage.keyboard.type("6*7")
         panel = find_panel(self.stage)
         self.stage.pointer.click(panel.rect[2] - 49, panel.rect[1] + 11)
-        self.stage.wait_for(lambda: find_wheel(self.stage) is None and self.column(), "the column takes over", 15)
+        self.stage.wait_for(lambda: find_wheel(self.stage) is None and find_column(self.stage),
+                            "the column takes over", 15)
         self.stage.wait_until_still()
         self.stage.screenshot("column")
         self.assertEqual(self.term_field().text, "6×7")

@@ -9,6 +9,7 @@ SIDE = 120  # pixels of the wheel's window, which is a square
 RADIUS = 43
 COLUMN = (47, 312)  # pixels of the sidebar's window
 PROGRAM = "Dorvalin.exe"
+HOLD = 15  # seconds after which a held gesture counts as not recognised on a busy machine
 
 
 class Wheel:
@@ -37,17 +38,19 @@ class Wheel:
         return panel
 
 
-def open_wheel(stage, x, y, active="Zeichen", seconds=15):
-    """Holds the middle button at a point until the wheel is there; `active` is the last function."""
+def open_wheel(stage, x, y, active="Zeichen", buttons=("middle",)):
+    """Holds the buttons at a point until the wheel stands with its panel; `active` is the last function."""
     stage.pointer.move_to(x, y)
-    stage.pointer.press("middle")
-    try:
-        window = stage.wait_for(lambda: find_wheel(stage), "the wheel opens under the held button", seconds)
-    finally:
-        stage.pointer.release("middle")
-    stage.wait_for(lambda: find_panel(stage), "the panel of the last function opens")
+    with stage.pointer.holding(*buttons):
+        stage.wait_for(lambda: find_wheel(stage), "the wheel opens under the held button", HOLD)
+    return opened_wheel(stage, active)
+
+
+def opened_wheel(stage, active):
+    stage.wait_for(lambda: stage.foreground() == find_panel(stage) is not None,
+                   "the panel of the last function has the keys")
     stage.wait_until_still()
-    return Wheel(stage, find_wheel(stage) or window, active)
+    return Wheel(stage, find_wheel(stage), active)
 
 
 def find_wheel(stage):
@@ -58,6 +61,12 @@ def find_wheel(stage):
 def find_column(stage):
     """The sidebar's column of bubbles, or None."""
     return next((w for w in stage.windows(program=PROGRAM) if (w.width, w.height) == COLUMN), None)
+
+
+def bubble_of_column(column, caption, active):
+    """The middle of a bubble of the sidebar's column, on the screen."""
+    left, top = column.rect[:2]
+    return left + (16 if caption == active else 26), top + 40 * BUBBLES.index(caption) + 16
 
 
 def find_panel(stage):

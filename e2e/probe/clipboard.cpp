@@ -8,72 +8,40 @@
 namespace probe {
 namespace {
 
-constexpr int kTries = 50;
-
 /// Holds the clipboard open; another program may have it for a moment.
 class OpenedClipboard {
  public:
   OpenedClipboard() {
-    for (int i = 0; i < kTries && !opened_; ++i, opened_ || (Sleep(10), true)) {
-      opened_ = OpenClipboard(nullptr);
+    for (int tries = 50; tries > 0; --tries, Sleep(10)) {
+      if (OpenClipboard(nullptr)) return;
     }
-    if (!opened_) throw Refusal("the clipboard is held by another program");
+    throw Refusal("the clipboard is held by another program");
   }
   ~OpenedClipboard() { CloseClipboard(); }
   OpenedClipboard(const OpenedClipboard&) = delete;
   OpenedClipboard& operator=(const OpenedClipboard&) = delete;
-
- private:
-  bool opened_ = false;
 };
 
-std::wstring NameOf(UINT format) {
-  switch (format) {
-    case CF_TEXT:
-      return L"Text";
-    case CF_UNICODETEXT:
-      return L"Unicode text";
-    case CF_BITMAP:
-      return L"Bitmap";
-    case CF_DIB:
-      return L"DIB";
-    case CF_HDROP:
-      return L"Files";
-    default:
-      break;
-  }
-  wchar_t name[256];
-  const int size = GetClipboardFormatNameW(format, name, 256);
-  return size ? std::wstring(name, size) : std::to_wstring(format);
-}
+std::wstring Wide(std::wstring text) { return text; }
+std::wstring Wide(const std::string& bytes) { return Utf16(bytes); }
 
 template <typename Unit>
-std::basic_string<Unit> ContentOf(UINT format) {
+std::string JsonOfFormat(UINT format) {
   const HANDLE data = GetClipboardData(format);
   const auto* units = data ? static_cast<const Unit*>(GlobalLock(data)) : nullptr;
-  if (!units) return {};
+  if (!units) return "null";
   std::basic_string<Unit> content(units, GlobalSize(data) / sizeof(Unit));
   GlobalUnlock(data);
-  return content.substr(0, content.find(Unit{}));
+  return JsonText(Wide(content.substr(0, content.find(Unit{}))));
 }
 
 }  // namespace
 
 std::string ReadClipboard(const Words&) {
   const OpenedClipboard opened;
-  std::vector<std::string> formats;
-  for (UINT f = EnumClipboardFormats(0); f; f = EnumClipboardFormats(f)) {
-    formats.push_back(JsonText(NameOf(f)));
-  }
-  std::vector<std::pair<std::string, std::string>> members = {{"formats", JsonList(formats)}};
-  if (IsClipboardFormatAvailable(CF_UNICODETEXT)) {
-    members.emplace_back("text", JsonText(ContentOf<wchar_t>(CF_UNICODETEXT)));
-  }
   const UINT rich = RegisterClipboardFormatW(L"Rich Text Format");
-  if (IsClipboardFormatAvailable(rich)) {
-    members.emplace_back("rich_text", JsonText(Utf16(ContentOf<char>(rich))));
-  }
-  return JsonObject(members);
+  return JsonObject(
+      {{"text", JsonOfFormat<wchar_t>(CF_UNICODETEXT)}, {"rich_text", JsonOfFormat<char>(rich)}});
 }
 
 std::string WriteClipboard(const Words& words) {

@@ -1,5 +1,5 @@
-// Answers questions about this Windows: a line of words on the input, a line of JSON on the output.
-// Words are separated by blanks and percent-encoded; an empty word is a lone "%".
+// Answers questions about this Windows with a line of JSON each. A question is words, each ended by
+// a unit separator, and ends itself with a NUL.
 #include <fcntl.h>
 #include <io.h>
 #include <windows.h>
@@ -15,9 +15,10 @@
 namespace probe {
 namespace {
 
-using Command = std::string (*)(const Words&);
+constexpr char kEndOfWord = '\x1F';
+constexpr char kEndOfQuestion = '\0';
 
-const std::map<std::wstring, Command> kCommands = {
+const std::map<std::wstring, std::string (*)(const Words&)> kCommands = {
     {L"windows", Windows},
     {L"foreground", Foreground},
     {L"focus", Focus},
@@ -25,46 +26,27 @@ const std::map<std::wstring, Command> kCommands = {
     {L"text", Text},
     {L"settext", WriteText},
     {L"selection", Selection},
-    {L"close", Close},
     {L"activate", Activate},
-    {L"buttons", Buttons},
     {L"scrolllock", ScrollLock},
-    {L"environment", Environment},
-    {L"regvalues", RegistryValues},
-    {L"regkeys", RegistryKeys},
+    {L"regget", RegistryGet},
     {L"regset", RegistrySet},
     {L"regdelete", RegistryDelete},
     {L"clipboard", ReadClipboard},
     {L"setclipboard", WriteClipboard},
 };
 
-std::wstring Decoded(const std::string& word) {
-  std::string bytes;
-  for (std::size_t i = 0; i < word.size(); ++i) {
-    if (word[i] != '%') {
-      bytes += word[i];
-    } else if (i + 2 < word.size()) {
-      bytes += static_cast<char>(std::stoi(word.substr(i + 1, 2), nullptr, 16));
-      i += 2;
-    }
-  }
-  return Utf16(bytes);
-}
-
-Words WordsOf(const std::string& line) {
+Words WordsOf(const std::string& question) {
   Words words;
-  std::istringstream stream(line);
-  for (std::string word; stream >> word;) words.push_back(Decoded(word));
+  std::istringstream stream(question);
+  for (std::string word; std::getline(stream, word, kEndOfWord);) words.push_back(Utf16(word));
   return words;
 }
 
 std::string Answer(Words words) {
   try {
-    if (words.empty()) throw Refusal("no command");
-    const auto command = kCommands.find(words.front());
-    if (command == kCommands.end()) throw Refusal("unknown command");
+    const auto command = kCommands.at(words.at(0));
     words.erase(words.begin());
-    return command->second(words);
+    return command(words);
   } catch (const std::exception& refusal) {
     return JsonObject({{"error", JsonText(Utf16(refusal.what()))}});
   }
@@ -74,9 +56,10 @@ std::string Answer(Words words) {
 }  // namespace probe
 
 int wmain() {
+  _setmode(_fileno(stdin), _O_BINARY);
   _setmode(_fileno(stdout), _O_BINARY);
-  for (std::string line; std::getline(std::cin, line);) {
-    std::cout << probe::Answer(probe::WordsOf(line)) << std::endl;
+  for (std::string question; std::getline(std::cin, question, probe::kEndOfQuestion);) {
+    std::cout << probe::Answer(probe::WordsOf(question)) << std::endl;
   }
   return 0;
 }

@@ -10,18 +10,16 @@ namespace {
 
 constexpr UINT kPatience = 2000;  // milliseconds for a window that does not answer
 
-const std::wstring& Only(const Words& words) {
-  if (words.size() != 1) throw Refusal("one word is needed");
-  return words.front();
-}
-
 HWND WindowOf(const Words& words) {
-  const auto window = reinterpret_cast<HWND>(std::stoull(Only(words)));
+  const auto window = reinterpret_cast<HWND>(std::stoull(words.at(0)));
   if (!IsWindow(window)) throw Refusal("no such window");
   return window;
 }
 
-std::wstring FileNameOfProcess(DWORD pid) {
+/// The file name of its process.
+std::wstring ProgramOf(HWND window) {
+  DWORD pid = 0;
+  GetWindowThreadProcessId(window, &pid);
   const HANDLE process = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, pid);
   if (!process) return {};
   wchar_t path[MAX_PATH];
@@ -46,30 +44,20 @@ std::wstring TitleOf(HWND window) {
 std::string Described(HWND window) {
   RECT r{};
   GetWindowRect(window, &r);
-  DWORD pid = 0;
-  GetWindowThreadProcessId(window, &pid);
-  const bool topmost = GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_TOPMOST;
   const auto number = [](auto value) { return std::to_string(value); };
   return JsonObject({
       {"handle", number(reinterpret_cast<std::uintptr_t>(window))},
       {"title", JsonText(TitleOf(window))},
       {"class_name", JsonText(ClassOf(window))},
-      {"program", JsonText(FileNameOfProcess(pid))},
-      {"pid", number(pid)},
+      {"program", JsonText(ProgramOf(window))},
       {"rect", JsonList({number(r.left), number(r.top), number(r.right), number(r.bottom)})},
       {"enabled", JsonBool(IsWindowEnabled(window))},
       {"visible", JsonBool(IsWindowVisible(window))},
-      {"topmost", JsonBool(topmost)},
-      {"identifier", number(GetDlgCtrlID(window))},
   });
 }
 
 // The desktop's own windows (its background, its bar, tips) are no programs' windows.
-bool IsOfTheDesktop(HWND window) {
-  DWORD pid = 0;
-  GetWindowThreadProcessId(window, &pid);
-  return FileNameOfProcess(pid) == L"explorer.exe";
-}
+bool IsOfTheDesktop(HWND window) { return ProgramOf(window) == L"explorer.exe"; }
 
 BOOL CALLBACK Collect(HWND window, LPARAM list) {
   reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
@@ -122,9 +110,8 @@ std::string Text(const Words& words) {
 }
 
 std::string WriteText(const Words& words) {
-  if (words.size() != 2) throw Refusal("a window and a text");
-  return JsonBool(
-      Sent(WindowOf({words[0]}), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(words[1].c_str())) != 0);
+  const auto text = reinterpret_cast<LPARAM>(words.at(1).c_str());
+  return JsonBool(Sent(WindowOf(words), WM_SETTEXT, 0, text) != 0);
 }
 
 std::string Selection(const Words& words) {
@@ -132,33 +119,13 @@ std::string Selection(const Words& words) {
   return JsonList({std::to_string(LOWORD(range)), std::to_string(HIWORD(range))});
 }
 
-std::string Close(const Words& words) {
-  return JsonBool(PostMessageW(WindowOf(words), WM_CLOSE, 0, 0));
-}
-
 std::string Activate(const Words& words) { return JsonBool(SetForegroundWindow(WindowOf(words))); }
-
-std::string Buttons(const Words&) {
-  std::vector<std::string> down;
-  const std::pair<int, const char*> buttons[] = {
-      {VK_LBUTTON, "\"left\""}, {VK_MBUTTON, "\"middle\""}, {VK_RBUTTON, "\"right\""}};
-  for (const auto& [key, name] : buttons) {
-    if (GetAsyncKeyState(key) & 0x8000) down.emplace_back(name);
-  }
-  return JsonList(down);
-}
 
 std::string ScrollLock(const Words&) {
   // The toggle that this thread knows is brought up to date by its own messages only.
   MSG message;
   PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);
   return JsonBool(GetKeyState(VK_SCROLL) & 1);
-}
-
-std::string Environment(const Words& words) {
-  wchar_t value[32768];
-  const DWORD size = GetEnvironmentVariableW(Only(words).c_str(), value, 32768);
-  return JsonText({value, size});
 }
 
 }  // namespace probe

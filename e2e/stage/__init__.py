@@ -10,28 +10,29 @@
         stage.registry.set(r"HKCU\\Software\\Tolvo\\Dorvalin", "WaitBeforeSend", 50)
         dorvalin = stage.start_dorvalin()               # the program as it is shipped
         stage.pointer.move_to(*editor.middle)
-        stage.pointer.hold("middle", 0.5)               # real events of the display
-        wheel = stage.wait_for_window(program="Dorvalin.exe")
+        with stage.pointer.holding("middle"):           # real events of the display
+            wheel = stage.wait_for_window(program="Dorvalin.exe")
         stage.screenshot("wheel")                       # build/screenshots/wheel.png
         stage.pointer.click(*wheel.middle)
         stage.wait_for(lambda: stage.foreground() == editor.window, "the editor gets the keys back")
 
 What a stage offers (each class says more):
 
-    open_editor(text=""), open_rich_editor()  the text editor; a rich text control of another process
-    start(program, *args), start_dorvalin()   any program; a Program has ended, exit_code, log, close(), kill()
-    windows(**wanted), window(**wanted)       visible top-level windows, the top one first; Window has
-                                              title, class_name, program, rect, middle, enabled, topmost,
-                                              text, selection, children(**wanted)
-    foreground()                              the window that gets the keys, or None
+    open_editor(text=""), open_rich_editor(), open_word_processor()
+                                              targets: a rich text control of another process is one
+    start(program, *args), start_dorvalin()   any program; a Program has wait(), exit_code, output(), kill()
+    windows(**wanted), wait_for_window()      visible top-level windows, the top one first; Window has
+                                              title, class_name, program, rect, middle, enabled, text,
+                                              selection, children(**wanted)
+    foreground(), focus()                     the window and the control that get the keys, or None
     message_box()                             the one that is open, or None: its title, text and buttons
-    pointer                                   move_to, move_by, press, release, click, double_click, hold,
-                                              drag, position, park (pictures show the pointer too)
+    pointer                                   move_to, move_by, press, release, holding, click,
+                                              double_click, drag, park (pictures show the pointer too)
     keyboard                                  type(text), press("ctrl+v"), hold and release
-    clipboard                                 text (read and write), rich_text, formats
-    registry                                  get, set, delete, values, keys
-    buttons(), scroll_lock()                  what Windows holds for pressed or switched on
-    picture(), screenshot(name), pixel(x, y)  what the screen shows; a Picture has pixel, crop, differs_from
+    clipboard                                 text (read and write), rich_text
+    registry                                  get, set, delete
+    scroll_lock()                             whether Windows holds it for switched on
+    picture(), screenshot(name), pixel(x, y)  what the screen shows
     path(r"C:\\a\\b.txt")                       the same file as this side sees it
     wait_for(condition, what, seconds=5)      its value as soon as it is true; StageError names `what` otherwise
 
@@ -41,9 +42,7 @@ From the shell: `python3 -m stage COMMAND...` in this folder's parent runs a com
 """
 
 from .case import StageTest
-from .ground import StageError, wait_for
-from .picture import Picture
-from .probe import Window
-from .stage import Program, Stage
+from .ground import StageError
+from .stage import Stage
 
-__all__ = ["Picture", "Program", "Stage", "StageError", "StageTest", "Window", "wait_for"]
+__all__ = ["Stage", "StageError", "StageTest"]

@@ -34,8 +34,7 @@ def wine_loader():
     raise StageError("Wine is not installed (Debian's packages wine and wine64)")
 
 
-def is_32_bit_program(path):
-    """Whether a Windows program is of the 32-bit kind, by its header."""
+def _is_32_bit_program(path):
     data = pathlib.Path(path).read_bytes()[:4096]
     start = int.from_bytes(data[0x3C:0x40], "little")
     return data[start:start + 4] == b"PE\0\0" and data[start + 4:start + 6] == b"\x4c\x01"
@@ -45,7 +44,7 @@ def refuse_unrunnable(path):
     """A 32-bit program without 32-bit Wine prints nothing and ends with 0; that is no success."""
     if not pathlib.Path(path).is_file():
         raise StageError(f"{path} is missing")
-    if is_32_bit_program(path) and not WINE32.exists():
+    if _is_32_bit_program(path) and not WINE32.exists():
         raise StageError(f"{path} is a 32-bit program and this machine has no 32-bit Wine")
 
 
@@ -61,13 +60,12 @@ def wait_for(condition, what, seconds=5.0, every=0.02):
         time.sleep(every)
 
 
-def call(*command, env=None, seconds=60.0, text_in=None):
+def call(*command, env=None, seconds=60.0):
     """Runs a tool to its end and returns what it printed; StageError when it fails."""
     try:
         done = subprocess.run(
-            [str(part) for part in command], env=env, input=text_in, timeout=seconds, check=True,
-            stdin=None if text_in is not None else subprocess.DEVNULL,
-            capture_output=True, encoding="utf-8", errors="replace")
+            [str(part) for part in command], env=env, timeout=seconds, check=True,
+            stdin=subprocess.DEVNULL, capture_output=True, encoding="utf-8", errors="replace")
     except FileNotFoundError as error:
         raise StageError(f"{command[0]} is not installed") from error
     except subprocess.CalledProcessError as error:

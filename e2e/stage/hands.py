@@ -1,6 +1,7 @@
 """The user's hands: pointer and keyboard events of the display itself, which no program can tell
 from a person's."""
 
+import contextlib
 import os
 import time
 
@@ -11,7 +12,6 @@ BUTTONS = {"left": 1, "middle": 2, "right": 3, "wheel up": 4, "wheel down": 5}
 # Dragging begins only with moves that a hand could make: few, small, and with time between them.
 DRAG_STEPS = 8
 DRAG_PAUSE = 0.03
-
 
 # Wine asks for Shift, AltGr and Ctrl when a program gets to a key, not as they were when it was struck.
 # Let go earlier than that, they change the character; so a busy machine is typed on more slowly.
@@ -35,10 +35,6 @@ class _Hand:
 class Pointer(_Hand):
     """Buttons are "left", "middle", "right", "wheel up", "wheel down"."""
 
-    def position(self):
-        answer = dict(line.split("=") for line in self._do("getmouselocation", "--shell").split())
-        return int(answer["X"]), int(answer["Y"])
-
     def move_to(self, x, y):
         self._do("mousemove", x, y)
 
@@ -55,6 +51,16 @@ class Pointer(_Hand):
     def release(self, button="left"):
         self._do("mouseup", BUTTONS[button])
 
+    @contextlib.contextmanager
+    def holding(self, *buttons):
+        for button in buttons:
+            self.press(button)
+        try:
+            yield
+        finally:
+            for button in reversed(buttons):
+                self.release(button)
+
     def click(self, x=None, y=None, button="left"):
         if x is not None:
             self.move_to(x, y)
@@ -64,12 +70,6 @@ class Pointer(_Hand):
         if x is not None:
             self.move_to(x, y)
         self._do("click", "--repeat", 2, "--delay", 60, BUTTONS["left"])
-
-    def hold(self, button, seconds):
-        """Presses, waits, releases; the pointer rests."""
-        self.press(button)
-        time.sleep(seconds)
-        self.release(button)
 
     def drag(self, start, end, button="left"):
         """From point to point; it rests on the way and at the end as a hand does."""

@@ -2,34 +2,20 @@
 
 import struct
 import zlib
+from dataclasses import dataclass
 
 
+@dataclass(frozen=True)
 class Picture:
     """width x height pixels; `rgb` holds three bytes a pixel, row by row from the top."""
 
-    def __init__(self, width, height, rgb):
-        self.width = width
-        self.height = height
-        self.rgb = bytes(rgb)
+    width: int
+    height: int
+    rgb: bytes
 
     def pixel(self, x, y):
         start = 3 * (y * self.width + x)
         return tuple(self.rgb[start:start + 3])
-
-    def crop(self, left, top, right, bottom):
-        """The half-open part, cut to what there is."""
-        left, top = max(left, 0), max(top, 0)
-        right, bottom = min(right, self.width), min(bottom, self.height)
-        rows = (self.rgb[3 * (y * self.width + left):3 * (y * self.width + right)]
-                for y in range(top, bottom))
-        return Picture(right - left, bottom - top, b"".join(rows))
-
-    def colours(self):
-        """The set of colours that occur; a picture of one colour shows nothing."""
-        return {self.rgb[i:i + 3] for i in range(0, len(self.rgb), 3)}
-
-    def differs_from(self, other):
-        return (self.width, self.height, self.rgb) != (other.width, other.height, other.rgb)
 
     def save(self, path):
         """Writes a PNG and returns its path."""
@@ -47,19 +33,16 @@ def _chunk(kind, data):
 
 
 def read_frame_buffer(path):
-    """The picture in the file that Xvfb keeps its screen in (the xwd format, 32 bits a pixel)."""
+    """The picture in the file that Xvfb keeps its screen in (the xwd format): blue, green, red, and one more."""
     data = path.read_bytes()
     fields = struct.unpack(">25I", data[:100])
-    header_size, width, height = fields[0], fields[4], fields[5]
-    little_endian, bits_per_pixel, stride, colour_count = fields[7] == 0, fields[11], fields[12], fields[19]
-    if bits_per_pixel != 32:
-        raise ValueError(f"a screen of {bits_per_pixel} bits a pixel")
+    header_size, width, height, colour_count = fields[0], fields[4], fields[5], fields[19]
+    big_endian, bits_per_pixel, stride = fields[7], fields[11], fields[12]
+    if (big_endian, bits_per_pixel, stride) != (0, 32, 4 * width):
+        raise ValueError(f"a screen of {bits_per_pixel} bits a pixel, {stride} bytes a row, order {big_endian}")
     start = header_size + 12 * colour_count
+    rows = data[start:start + stride * height]
     pixels = bytearray(3 * width * height)
-    rows = memoryview(data)[start:start + stride * height]
-    if stride != 4 * width:
-        rows = b"".join(rows[y * stride:y * stride + 4 * width] for y in range(height))
-    order = (2, 1, 0) if little_endian else (1, 2, 3)
-    for channel, offset in enumerate(order):
-        pixels[channel::3] = rows[offset::4]
-    return Picture(width, height, pixels)
+    for channel in range(3):
+        pixels[channel::3] = rows[2 - channel::4]
+    return Picture(width, height, bytes(pixels))

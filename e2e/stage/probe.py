@@ -1,9 +1,8 @@
-"""Questions to Windows itself: a helper program inside Wine answers them, one line each."""
+"""Questions to Windows itself: a helper program inside Wine answers them."""
 
 import contextlib
 import json
 import subprocess
-import urllib.parse
 from dataclasses import dataclass
 
 from .ground import E2E, ROOT, WORK, StageError, call, die_with_parent, one_at_a_time, wine_loader
@@ -53,18 +52,18 @@ class Probe:
         self._process = None
 
     def ask(self, *words):
-        line = " ".join(urllib.parse.quote(str(word), safe="") or "%" for word in words) + "\n"
+        question = "".join(f"{word}\x1f" for word in words) + "\0"
         try:
-            self._process.stdin.write(line.encode())
+            self._process.stdin.write(question.encode())
             self._process.stdin.flush()
         except OSError as error:
             raise StageError("the probe has ended") from error
         answer = self._process.stdout.readline()
         if not answer:
-            raise StageError(f"the probe ended at: {line.strip()}")
+            raise StageError(f"the probe ended at: {words}")
         value = json.loads(answer)
         if isinstance(value, dict) and "error" in value:
-            raise StageError(f"{value['error']}: {line.strip()}")
+            raise StageError(f"{value['error']}: {words}")
         return value
 
 
@@ -80,12 +79,9 @@ class Window:
     title: str
     class_name: str
     program: str
-    pid: int
     rect: tuple
     enabled: bool
     visible: bool
-    topmost: bool
-    identifier: int
 
     def __eq__(self, other):
         return isinstance(other, Window) and self.handle == other.handle
@@ -127,16 +123,9 @@ class Window:
         """All windows inside it, also hidden ones, in the order of their handling by Tab."""
         return select(self.probe, self.probe.ask("children", self.handle), wanted)
 
-    def close(self):
-        """Asks it to close, as the button in its title bar does."""
-        self.probe.ask("close", self.handle)
-
     def bring_up(self):
         """Makes it the foreground window."""
         self.probe.ask("activate", self.handle)
-
-
-EDIT_CLASSES = ("edit", "richedit50w", "richedit20w", "richedit20a", "richedit")
 
 
 def window_from(probe, row):
@@ -144,44 +133,29 @@ def window_from(probe, row):
 
 
 def select(probe, rows, wanted):
-    """The windows whose properties are as wanted; a title is looked for as a part."""
-    found = (window_from(probe, row) for row in rows)
-    return [window for window in found if all(_fits(window, name, value) for name, value in wanted.items())]
-
-
-def _fits(window, name, value):
-    if value is None:
-        return True
-    if name == "title":
-        return value in window.title
-    if name in ("class_name", "program"):
-        return getattr(window, name).lower() == value.lower()
-    return getattr(window, name) == value
+    """The windows whose properties are as wanted."""
+    windows = (window_from(probe, row) for row in rows)
+    return [window for window in windows
+            if all(getattr(window, name) == value for name, value in wanted.items())]
 
 
 class Registry:
-    """The user's registry. Keys are named with their root: r"HKCU\\Software\\Tolvo\\Dorvalin"."""
+    """The user's part of the registry. Keys are named with their root: r"HKCU\\Software\\Tolvo\\Dorvalin"."""
 
     def __init__(self, probe):
         self._probe = probe
 
     def get(self, key, name):
         """A string or a number; None when there is no such value."""
-        return self.values(key).get(name)
+        return self._probe.ask("regget", key, name)
 
     def set(self, key, name, value):
         kind = "dword" if isinstance(value, int) else "string"
-        self._probe.ask("regset", key, name, kind, int(value) if kind == "dword" else value)
+        self._probe.ask("regset", key, name, kind, value)
 
-    def delete(self, key, name=None):
-        """Removes a value, or without a name the key with all below it; what is missing stays missing."""
-        self._probe.ask("regdelete", key, *([] if name is None else [name]))
-
-    def values(self, key):
-        return self._probe.ask("regvalues", key)
-
-    def keys(self, key):
-        return self._probe.ask("regkeys", key)
+    def delete(self, key):
+        """Removes the key with all below it; what is missing stays missing."""
+        self._probe.ask("regdelete", key)
 
 
 class Clipboard:
@@ -193,7 +167,7 @@ class Clipboard:
     @property
     def text(self):
         """Its plain text, or None."""
-        return self._probe.ask("clipboard").get("text")
+        return self._probe.ask("clipboard")["text"]
 
     @text.setter
     def text(self, value):
@@ -202,9 +176,4 @@ class Clipboard:
     @property
     def rich_text(self):
         """Its Rich Text as written, or None."""
-        return self._probe.ask("clipboard").get("rich_text")
-
-    @property
-    def formats(self):
-        """The names of all formats that are there, in their order."""
-        return self._probe.ask("clipboard")["formats"]
+        return self._probe.ask("clipboard")["rich_text"]

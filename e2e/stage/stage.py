@@ -15,7 +15,7 @@ from .ground import (ROOT, SCREENSHOTS, WORK, StageError, adopt_orphans, die_wit
                      refuse_unrunnable, wait_for, wine_loader)
 from .hands import Keyboard, Pointer
 from .prefix import Prefix
-from .probe import EDIT_CLASSES, Clipboard, Probe, Registry, helper, select, window_from
+from .probe import Clipboard, Probe, Registry, helper, select, window_from
 from .screen import Screen
 
 PACKAGE = ROOT / "build" / "windows-x86_64" / "package" / "Dorvalin"
@@ -25,22 +25,18 @@ _numbers = itertools.count(1)
 
 
 class Program:
-    """A Windows program that was started. `log` is the file with all that it printed."""
+    """A Windows program that was started."""
 
     def __init__(self, stage, name, process, log):
         self.stage = stage
         self.name = name
-        self.log = log
+        self._log = log
         self._process = process
 
     @property
     def pid(self):
         """The process on this side, not Windows' number."""
         return self._process.pid
-
-    @property
-    def ended(self):
-        return self._process.poll() is not None
 
     @property
     def exit_code(self):
@@ -54,26 +50,16 @@ class Program:
         except subprocess.TimeoutExpired as error:
             raise StageError(f"{self.name} does not end") from error
 
-    def windows(self, **wanted):
-        return self.stage.windows(program=self.name, **wanted)
+    def windows(self):
+        return self.stage.windows(program=self.name)
 
     def output(self):
-        return self.log.read_text(encoding="utf-8", errors="replace")
-
-    def close(self, seconds=3.0):
-        """Closes its windows, and ends it when that does not help."""
-        if self.ended:
-            return
-        for window in self.windows():
-            window.close()
-        with contextlib.suppress(StageError):
-            self.wait(seconds)
-        self.kill()
+        """All that it printed."""
+        return self._log.read_text(encoding="utf-8", errors="replace")
 
     def kill(self):
-        if not self.ended:
-            self._process.kill()
-            self._process.wait()
+        self._process.kill()
+        self._process.wait()
 
 
 class Editor:
@@ -90,7 +76,7 @@ class Editor:
     def _find_field(self):
         for window in self.program.windows():
             for child in window.children(visible=True):
-                if child.class_name.lower() in EDIT_CLASSES:
+                if child.class_name.lower().startswith(("edit", "richedit")):
                     return child
         return None
 
@@ -186,7 +172,7 @@ class Stage:
 
     # Programs
 
-    def start(self, program, *arguments, env=None):
+    def start(self, program, *arguments):
         """Starts a program: a path on this side, a Windows path, or the name of one of Wine's own."""
         program = str(program)
         if "/" in program:
@@ -196,19 +182,18 @@ class Stage:
         log = self.folder / f"{len(self._programs)}-{name}.log"
         with open(log, "wb") as output:
             process = subprocess.Popen(
-                [wine_loader(), program, *map(str, arguments)], env={**self._env, **(env or {})},
-                cwd=self.folder, stdin=subprocess.DEVNULL, stdout=output, stderr=output,
-                preexec_fn=die_with_parent)
+                [wine_loader(), program, *map(str, arguments)], env=self._env, cwd=self.folder,
+                stdin=subprocess.DEVNULL, stdout=output, stderr=output, preexec_fn=die_with_parent)
         self._programs.append(Program(self, name, process, log))
         return self._programs[-1]
 
-    def start_dorvalin(self, *arguments):
+    def start_dorvalin(self):
         r"""Starts the program from C:\Dorvalin, where it lies with its data as it is shipped."""
         target = self._prefix.drive_c / "Dorvalin"
         if not target.exists():
             refuse_unrunnable(self._package / "Dorvalin.exe")
             shutil.copytree(self._package, target)
-        return self.start(r"C:\Dorvalin\Dorvalin.exe", *arguments)
+        return self.start(r"C:\Dorvalin\Dorvalin.exe")
 
     def open(self, program, *arguments):
         """Starts a program with a text field and waits until the field has the keys."""
@@ -216,9 +201,9 @@ class Stage:
 
     def open_editor(self, text=""):
         """Wine's text editor with this text in a file of its own."""
-        file = self.path(rf"C:\Text{len(self._programs)}.txt")
-        file.write_bytes(b"\xef\xbb\xbf" + text.replace("\n", "\r\n").encode())
-        return self.open("notepad", self.windows_path(file))
+        file = rf"C:\Text{len(self._programs)}.txt"
+        self.path(file).write_bytes(b"\xef\xbb\xbf" + text.replace("\n", "\r\n").encode())
+        return self.open("notepad", file)
 
     def open_rich_editor(self):
         """A window with nothing but a rich text control; Wine's takes no drops."""
@@ -239,15 +224,12 @@ class Stage:
     # Windows
 
     def windows(self, **wanted):
-        """Visible top-level windows, the top one first: windows(program="notepad.exe", title="Text")."""
+        """Visible top-level windows, the top one first: windows(program="notepad.exe")."""
         return select(self._probe, self._probe.ask("windows"), wanted)
 
-    def window(self, **wanted):
-        """The top one of those, or None."""
-        return next(iter(self.windows(**wanted)), None)
-
     def wait_for_window(self, seconds=5.0, **wanted):
-        return wait_for(lambda: self.window(**wanted), f"a window with {wanted}", seconds)
+        """The top one of those."""
+        return wait_for(lambda: self.windows(**wanted), f"a window with {wanted}", seconds)[0]
 
     def foreground(self):
         """The window that gets the keys, or None."""
@@ -258,10 +240,6 @@ class Stage:
         """The control that gets the keys, or None."""
         row = self._probe.ask("focus")
         return window_from(self._probe, row) if row else None
-
-    def buttons(self):
-        """The pointer's buttons that Windows holds for pressed now: a set of left, middle, right."""
-        return set(self._probe.ask("buttons"))
 
     def scroll_lock(self):
         """Whether Windows holds Scroll Lock for switched on."""
@@ -283,12 +261,9 @@ class Stage:
     def pixel(self, x, y):
         return self.picture().pixel(x, y)
 
-    def screenshot(self, name, window=None):
-        """Saves the screen, or a window's part of it, as build/screenshots/<name>.png; gives the path."""
-        picture = self.picture()
-        if window:
-            picture = picture.crop(*window.rect)
-        return picture.save(SCREENSHOTS / f"{name}.png")
+    def screenshot(self, name):
+        """Saves the screen as build/screenshots/<name>.png; gives the path."""
+        return self.picture().save(SCREENSHOTS / f"{name}.png")
 
     def wait_until_still(self, seconds=5.0, pause=0.15):
         """Waits until two pictures a pause apart are the same, and gives the last."""
@@ -297,7 +272,7 @@ class Stage:
         while time.monotonic() < end:
             time.sleep(pause)
             now = self.picture()
-            if not now.differs_from(before):
+            if now == before:
                 return now
             before = now
         raise StageError(f"the screen did not come to rest within {seconds:g} s")
@@ -305,22 +280,8 @@ class Stage:
     # Files
 
     def path(self, windows_path):
-        r"""Where C:\... or Z:\... lies on this side."""
-        path = pathlib.PureWindowsPath(windows_path)
-        root = {"c:": self._prefix.drive_c, "z:": pathlib.Path("/")}[path.drive.lower()]
-        return root.joinpath(*path.parts[1:])
-
-    def windows_path(self, path):
-        """The name by which Windows programs know a file of this side."""
-        path = pathlib.Path(path)
-        if path.is_relative_to(self._prefix.drive_c):
-            return "C:\\" + str(path.relative_to(self._prefix.drive_c)).replace("/", "\\")
-        return "Z:" + str(path.absolute()).replace("/", "\\")
-
-    @property
-    def application_data(self):
-        """The user's application data folder on this side."""
-        return self.path(self._probe.ask("environment", "APPDATA"))
+        r"""Where C:\... lies on this side."""
+        return self._prefix.drive_c.joinpath(*pathlib.PureWindowsPath(windows_path).parts[1:])
 
     @staticmethod
     def wait_for(condition, what, seconds=5.0):
