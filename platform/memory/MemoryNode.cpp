@@ -13,6 +13,7 @@ MemoryNode::MemoryNode(MemoryDesktop& desktop, MemoryNode* parent, const Rect& b
   if (parent_ == nullptr) return;
   top_ = parent_->top_;
   parent_->children_.push_back(this);
+  toldSeen_ = Seen();
 }
 
 MemoryNode::~MemoryNode() { CutOff(); }
@@ -71,13 +72,14 @@ void MemoryNode::Move(const Rect& bounds) {
   OnMoved(former);
 }
 
-void MemoryNode::TellSeen(bool seen) {
+void MemoryNode::UpdateSeen() {
+  const bool seen = Seen();
+  if (!Alive() || seen == toldSeen_) return;
+  toldSeen_ = seen;
   OnSeenChange(seen);
   // A handler may make, show or close windows.
   for (MemoryNode* child : std::vector(children_)) {
-    if (std::count(children_.begin(), children_.end(), child) != 0 && child->visible_) {
-      child->TellSeen(seen);
-    }
+    if (std::count(children_.begin(), children_.end(), child) != 0) child->UpdateSeen();
   }
 }
 
@@ -86,7 +88,7 @@ void MemoryNode::ChangeVisible(bool visible) {
   visible_ = visible;
   if (parent_ != nullptr && !parent_->Seen()) return;
   if (!visible) desktop_->windows().TakeFocusFrom(*this);
-  TellSeen(visible);
+  UpdateSeen();
 }
 
 void MemoryNode::ChangeEnabled(bool enabled) {

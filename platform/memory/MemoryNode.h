@@ -76,7 +76,8 @@ class MemoryNode {
   bool Fails(std::string_view call) const;
   void SetTop(MemoryTopWindow& top) { top_ = &top; }
   void SetVisibleFlag(bool visible) { visible_ = visible; }
-  void TellSeen(bool seen);
+  /// Tells it and those in it whether they are seen, where that changed.
+  void UpdateSeen();
 
  private:
   MemoryDesktop* desktop_;
@@ -85,6 +86,7 @@ class MemoryNode {
   std::vector<MemoryNode*> children_;  ///< the first made is in front, as the system has it
   Rect bounds_;
   bool visible_ = true;
+  bool toldSeen_ = false;
   bool enabled_ = true;
   bool focusable_ = false;
   std::u16string toolTip_;

@@ -106,14 +106,16 @@ void MemorySlider::OnOwnKey(const KeyEvent& event) {
 void MemoryLabel::PaintOn(Surface& screen, const Rect& place, const Rect& clip) {
   const Rect part = place.Intersected(clip);
   if (part.Empty()) return;
-  if (!style_.transparent) FillRect(screen, part, Background().value_or(0xC8D0D4));
+  if (Background() || !style_.transparent) {
+    FillRect(screen, part, Background().value_or(0xC8D0D4));
+  }
   using Horizontal = TextFormat::Horizontal;
   const Horizontal along = style_.alignment == Alignment::Left    ? Horizontal::Left
                            : style_.alignment == Alignment::Right ? Horizontal::Right
                                                                   : Horizontal::Centre;
   MemoryTextDrawing::Paint(screen, part, caption_, ShownFont(),
                            Usable() ? TextColour() : Colour{0x808080},
-                           {.horizontal = along, .wordBreak = true, .accessKeys = true});
+                           {.horizontal = along, .wordBreak = true});
 }
 
 void MemoryLabel::OnPointerInput(const PointerInput& input, const MouseEvent& event) {

@@ -43,10 +43,9 @@ void MemoryTopWindow::SetVisible(bool visible) { visible ? Show(ShowMode::NoActi
 void MemoryTopWindow::Show(ShowMode mode) {
   if (Fails("TopWindow.Show")) return;
   WindowStack& stack = Desktop().stack();
-  const bool comesUp = !OwnVisible();
   if (mode == ShowMode::Activate) stack.Raise(*this);
   SetVisibleFlag(true);
-  if (comesUp) TellSeen(true);
+  UpdateSeen();
   if (mode == ShowMode::Activate && Shown() && Enabled()) stack.Activate(this);
 }
 
@@ -55,7 +54,7 @@ void MemoryTopWindow::Hide() {
   SetVisibleFlag(false);
   Desktop().windows().ReleaseCapture(*this);
   Desktop().stack().HandOn(*this);
-  if (Alive()) TellSeen(false);
+  UpdateSeen();
 }
 
 void MemoryTopWindow::SetTopMost(bool topMost) {

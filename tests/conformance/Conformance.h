@@ -26,6 +26,7 @@ class Listener : public platform::TopWindowEvents {
   std::vector<std::string> log;
   std::function<void()> onMouseDown;
   std::function<void()> onMouseMove;
+  std::function<void()> onVisible;
   std::function<platform::DropEffect(const platform::DragEvent&)> onDrop;
   platform::DropEffect dropEffect = platform::DropEffect::None;
   std::u16string typed;
@@ -45,7 +46,10 @@ class Listener : public platform::TopWindowEvents {
   void OnChar(platform::CharEvent& event) override { typed += event.unit; }
   void OnFocus(bool gained) override { log.emplace_back(gained ? "focus" : "no focus"); }
   void OnResize() override { log.emplace_back("resize"); }
-  void OnVisible(bool visible) override { log.emplace_back(visible ? "seen" : "gone"); }
+  void OnVisible(bool visible) override {
+    log.emplace_back(visible ? "seen" : "gone");
+    if (onVisible) onVisible();
+  }
   void OnActivate(platform::Activation now) override;
   void OnCloseRequest() override { log.emplace_back("close"); }
   platform::DropEffect OnDrag(const platform::DragEvent& event) override;

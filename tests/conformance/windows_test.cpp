@@ -126,12 +126,16 @@ TEST_F(OurWindow, TellsAllWhoAreSeenWithItThatTheyAre) {
 
 TEST_F(Windows, WhatWasDrawnOutOfSightIsThereOnceItIsSeen) {
   constexpr platform::Colour kBack = 0x302010, kFront = 0xA0B0C0, kBehind = 0x00C000,
-                             kInner = 0x4050F0, kLater = 0xF00000;
+                             kInner = 0x4050F0, kLater = 0xF00000, kPaper = 0x80F0F0;
   Listener listener, frontListener, behindListener, innerListener;
   const auto window = NewWindow(listener);
   const auto front = NewPane(*window, {10, 10, 90, 90}, frontListener);
   const auto behind = NewPane(*window, {50, 50, 150, 150}, behindListener);
   const auto inner = NewPane(*front, {60, 0, 160, 20}, innerListener);
+  const auto label = desktop().controls().NewLabel(*window, {160, 10, 190, 40}, u"", {});
+  const auto box = desktop().controls().NewTextBox(*window, {160, 50, 190, 80}, {});
+  label->SetColours(std::nullopt, kPaper);
+  box->SetColours(std::nullopt, kPaper);
   const auto fill = [](platform::Pane& pane, platform::Colour colour) {
     platform::FillRect(pane.Canvas(), pane.Canvas().Area(), colour);
     pane.Refresh();
@@ -152,12 +156,35 @@ TEST_F(Windows, WhatWasDrawnOutOfSightIsThereOnceItIsSeen) {
   EXPECT_TRUE(shows({120, 120}, kBehind));
   EXPECT_TRUE(shows({80, 20}, kInner));
   EXPECT_TRUE(shows({100, 20}, kBack)) << "none is seen outside of its parent";
+  EXPECT_TRUE(shows({175, 25}, kPaper));
+  EXPECT_TRUE(shows({175, 65}, kPaper));
   front->SetVisible(false);
   EXPECT_TRUE(shows({70, 70}, kBehind));
   fill(*front, kLater);
   front->SetVisible(true);
   EXPECT_TRUE(shows({70, 70}, kLater));
   EXPECT_TRUE(shows({80, 20}, kInner));
+}
+
+TEST_F(Windows, WhoIsToldOfBeingSeenMayHideMakeAndCloseWindows) {
+  Listener listener, first, second, last, late;
+  const auto window = NewWindow(listener);
+  const auto pane = NewPane(*window, {10, 10, 50, 50}, first);
+  const auto hidden = NewPane(*window, {60, 10, 90, 50}, second);
+  const auto closing = NewPane(*window, {100, 10, 150, 50}, last);
+  std::unique_ptr<platform::Pane> made;
+  first.onVisible = [&] {
+    hidden->SetVisible(false);
+    made = NewPane(*pane, {0, 0, 20, 20}, late);
+  };
+  last.onVisible = [&] { window->Close(); };
+  window->Show(ShowMode::Activate);
+  Settle();
+  EXPECT_EQ(first.Count("seen"), 1);
+  EXPECT_EQ(second.log, Log{}) << "it was never seen";
+  EXPECT_EQ(late.log, Log{}) << "it has been seen from its making on";
+  EXPECT_FALSE(window->Visible());
+  EXPECT_FALSE(made->Seen());
 }
 
 TEST_F(OurWindow, HasPanesWhoseCanvasFollowsTheirSizeAndKeepsItsContent) {

@@ -27,6 +27,21 @@ TEST_F(OnlyWindows, WindowsOfAClassAreHiddenByTheBeginningOfItsName) {
   EXPECT_TRUE(::IsWindowVisible(field.get()));
 }
 
+TEST_F(OnlyWindows, TheScreenIsAskedAnewAfterItsSizeChanged) {
+  Listener listener;
+  const auto window = NewWindow(listener);
+  const platform::Size before = desktop().screen().Size();
+  DEVMODEW mode{};
+  mode.dmSize = sizeof(mode);
+  mode.dmFields = DM_PELSWIDTH | DM_PELSHEIGHT;
+  mode.dmPelsWidth = 800;
+  mode.dmPelsHeight = 600;
+  ASSERT_EQ(::ChangeDisplaySettingsW(&mode, CDS_FULLSCREEN), DISP_CHANGE_SUCCESSFUL);
+  EXPECT_TRUE(Until([&] { return desktop().screen().Size() == platform::Size{800, 600}; }));
+  ASSERT_EQ(::ChangeDisplaySettingsW(nullptr, 0), DISP_CHANGE_SUCCESSFUL);
+  EXPECT_TRUE(Until([&] { return desktop().screen().Size() == before; }));
+}
+
 // Its window was destroyed behind its owner, and the icon was dead.
 TEST_F(OnlyWindows, TheIconOutlivesAWishToCloseAndAHandlerThatThrows) {
   int clicks = 0;
