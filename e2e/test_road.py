@@ -4,6 +4,7 @@ from dorvalin import DorvalinTest
 from stage.ground import SCREEN_SIZE
 from wheel import PROGRAM, bubble_of_column, find_column, find_panel, find_wheel, opened_wheel
 
+SIDEBAR = 20  # pixels that a ring leaves free at the right
 ONLY = {"BothBtn": 0, "MiddleBtn": 0, "RightBtn": 0, "LeftBtn": 0, "ScrollKey": 0}
 
 
@@ -69,20 +70,27 @@ class Ring(DorvalinTest):
                     self.assertIsNone(find_wheel(self.stage))
                 self.stage.keyboard.press("Escape")  # what the release of a button may have opened
 
-    def test_wheel_and_panel_are_wholly_visible_in_every_corner(self):
+    def test_at_every_edge_it_is_wholly_visible_and_flipped_where_due(self):
         self.start()
         self.editor.close()
         right, bottom = SCREEN_SIZE
-        for x, y in ((2, 2), (right - 3, 2), (2, bottom - 3), (right - 3, bottom - 3)):
-            with self.subTest(x=x, y=y):
-                wheel = self.call_wheel(x, y).window
-                for window in (wheel, find_panel(self.stage)):
-                    left, top = window.rect[:2]
-                    self.assertTrue(0 <= left <= right - window.width and 0 <= top <= bottom - window.height, window)
-                self.stage.screenshot(f"place-{x}-{y}")
-                self.stage.keyboard.press("Escape")
-                self.stage.pointer.click(*wheel.middle)
-                self.expect_no_window()
+        for x in (2, right // 2, right - 3):
+            for y in (2, bottom // 2 + 80, bottom - 3):
+                with self.subTest(x=x, y=y):
+                    wheel, panel = self.call_wheel(x, y).window, find_panel(self.stage)
+                    for window in (wheel, panel):
+                        left, top = window.rect[:2]
+                        self.assertTrue(0 <= left <= right - window.width and 0 <= top <= bottom - window.height,
+                                        window)
+                    self.assertLessEqual(wheel.rect[2], right - SIDEBAR)
+                    if y > bottom // 2:
+                        self.assertEqual(panel.rect[3], wheel.rect[1] + 20)
+                    else:
+                        self.assertEqual(panel.rect[1], wheel.rect[3] - 20)
+                    self.stage.screenshot(f"place-{x}-{y}")
+                    self.stage.keyboard.press("Escape")
+                    self.stage.pointer.click(*wheel.middle)
+                    self.expect_no_window()
 
     def test_a_click_elsewhere_and_on_the_middle_close_the_wheel_but_not_the_gestures_own_release(self):
         self.start()
@@ -122,23 +130,31 @@ class Sidebar(DorvalinTest):
         self.stage.wait_until_still()
         self.assertEqual(self.stage.foreground(), self.editor.window, "the target keeps the focus")
 
-    def test_contact_with_the_edge_opens_the_column_another_bubble_its_panel_and_leaving_closes(self):
-        self.start(settings={"RightBarMode": 0})
-        self.reach_edge(click=False)
-        panel = find_panel(self.stage)
-        self.stage.screenshot("sidebar-contact")
-        self.stage.pointer.click(*bubble_of_column(find_column(self.stage), "Zeichen", active="Rechner"))
-        self.stage.wait_for(lambda: find_panel(self.stage) not in (None, panel), "another panel opens")
-        self.stage.pointer.move_to(100, 100)
-        self.expect_no_window()
-
-    def test_a_click_at_the_edge_opens_the_column_and_a_result_arrives(self):
-        self.start()
-        self.reach_edge(click=True)
-        self.stage.screenshot("sidebar-click")
+    def expect_road_in_mode(self, mode):
+        self.start(settings={"RightBarMode": mode})
+        self.reach_edge(click=mode == 1)
+        self.stage.screenshot(f"sidebar-{mode}")
         self.stage.pointer.click(*self.term_field().middle)
         self.calculate("6*7")
         self.expect_arrived("42")
+        self.expect_no_window()
+
+    def test_contact_with_the_edge_opens_the_column_and_a_result_arrives(self):
+        self.expect_road_in_mode(0)
+
+    def test_a_click_at_the_edge_opens_the_column_and_a_result_arrives(self):
+        self.expect_road_in_mode(1)
+
+    def test_a_rest_at_the_edge_opens_the_column_and_a_result_arrives(self):
+        self.expect_road_in_mode(2)
+
+    def test_another_bubble_of_the_column_opens_its_panel_and_leaving_closes(self):
+        self.start(settings={"RightBarMode": 0})
+        self.reach_edge(click=False)
+        panel = find_panel(self.stage)
+        self.stage.pointer.click(*bubble_of_column(find_column(self.stage), "Zeichen", active="Rechner"))
+        self.stage.wait_for(lambda: find_panel(self.stage) not in (None, panel), "another panel opens")
+        self.stage.pointer.move_to(100, 100)
         self.expect_no_window()
 
     def test_the_ring_flies_into_the_column_with_its_panel(self):
