@@ -114,7 +114,7 @@ void MemoryInput::HandReleases(Button button) {
   Send({PointerInput::Kind::Release, button, State()});
 }
 
-void MemoryInput::HandTurnsWheelBy(int by) {
+void MemoryInput::HandTurnsWheel(int by) {
   PointerInput turn{PointerInput::Kind::Wheel, Button::Middle, State()};
   turn.turn = by;
   Send(turn);

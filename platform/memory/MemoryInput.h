@@ -32,8 +32,9 @@ class MemoryInput : public Input {
   void HandMoves(Point to);
   void HandPresses(Button button);
   void HandReleases(Button button);
-  void HandTurnsWheel(int notches) { HandTurnsWheelBy(notches * WheelNotches::kNotch); }
-  void HandTurnsWheelBy(int turn);
+  /// By parts of a notch, of which a whole one has WheelNotches::kNotch; away from the user is
+  /// positive.
+  void HandTurnsWheel(int turn);
   /// `unit`: the character that the key types in the user's layout; 0 for the one that the virtual
   /// key itself names, if any.
   void HandKey(int virtualKey, KeyEdge edge, char16_t unit = 0);

@@ -181,6 +181,21 @@ TEST_F(AtTheSidebar, AClickElsewhereClosesItOnceItsPanelHadTheFocus) {
   EXPECT_TRUE(EditorIsActive());
 }
 
+// The column went away under the user's own press.
+TEST_F(AtTheSidebar, APressOnItThatIsSeenBeforeItsActivationDoesNotCloseIt) {
+  StartIn(0);
+  user.MoveTo(kEdge);
+  user.Wait(50ms);
+  user.MoveTo(Host()->Window().Bounds().Middle());
+  user.Press(Button::Left);
+  desktop.stack().Activate(&editor);
+  user.Wait(50ms);
+  EXPECT_TRUE(ColumnIsSeen());
+  user.Release(Button::Left);
+  user.Wait(50ms);
+  EXPECT_FALSE(ColumnIsSeen()) << "the activation never came";
+}
+
 TEST_F(AtTheSidebar, APointerThatLeavesWhileItSlidesInEndsItWithoutAWord) {
   StartIn(0);
   user.Later(30ms, [&] { desktop.input().HandMoves({500, 300}); });

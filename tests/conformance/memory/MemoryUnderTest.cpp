@@ -28,7 +28,7 @@ class MemoryUnderTest final : public DesktopUnderTest {
   void MoveTo(Point p) override { desktop_.input().HandMoves(p); }
   void Press(Button button) override { desktop_.input().HandPresses(button); }
   void Release(Button button) override { desktop_.input().HandReleases(button); }
-  void TurnWheel(int turn) override { desktop_.input().HandTurnsWheelBy(turn); }
+  void TurnWheel(int turn) override { desktop_.input().HandTurnsWheel(turn); }
   void KeyDown(int key) override { desktop_.input().HandKey(key, Input::KeyEdge::Down); }
   void KeyUp(int key) override { desktop_.input().HandKey(key, Input::KeyEdge::Up); }
   void Later(std::chrono::milliseconds delay, std::function<void()> act) override {
