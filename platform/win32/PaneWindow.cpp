@@ -1,5 +1,7 @@
 #include "platform/win32/PaneWindow.h"
 
+#include <algorithm>
+
 #include "platform/raster.h"
 #include "platform/win32/DibMemory.h"
 #include "platform/win32/DragSource.h"
@@ -66,9 +68,9 @@ void PaneWindow::PaintTree(HDC dc, Point at, const Rect& clip) {
   const Rect place = Rect::At(at, canvas_.Size()).Intersected(clip);
   CopyTo(dc, canvas_, at, clip);
   // The first made is in front.
-  for (auto child = Children().rbegin(); child != Children().rend(); ++child) {
-    if ((*child)->Visible()) (*child)->PaintTree(dc, at + (*child)->Bounds().Origin(), place);
-  }
+  std::for_each(Children().rbegin(), Children().rend(), [&](NativeWindow* child) {
+    if (child->Visible()) child->PaintTree(dc, at + child->Bounds().Origin(), place);
+  });
 }
 
 void PaneWindow::SetPointer(const Pointer& pointer) {
