@@ -103,7 +103,7 @@ class WindowOf : public Port, public Base {
   Rect ScreenBounds() const override { return this->OnScreen(); }
   bool Visible() const override { return this->Alive() && this->OwnVisible(); }
   void SetVisible(bool visible) override { this->ChangeVisible(visible); }
-  bool Seen() const override { return this->Alive() && Base::Seen(); }
+  bool Seen() const override { return Base::Seen(); }
   bool Enabled() const override { return this->Alive() && this->OwnEnabled(); }
   void SetEnabled(bool enabled) override { this->ChangeEnabled(enabled); }
   void Focus() override { this->TakeFocus(); }
